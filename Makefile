@@ -1,0 +1,49 @@
+# make run   - install what is missing, build, start the window
+# make test  - install what is missing, build, run every test (headless), also
+#              the core's tests under AddressSanitizer and UndefinedBehaviorSanitizer
+# make bench - install what is missing, build optimised, run the benchmarks
+
+PACKAGES := cmake make g++ pkg-config qt6-base-dev libgl-dev libgtest-dev libgmock-dev \
+            libbenchmark-dev nlohmann-json3-dev
+JOBS ?= $(shell nproc 2>/dev/null || echo 2)
+
+.PHONY: run test bench deps build build-asan cli clean
+
+deps:
+	@missing=""; \
+	for p in $(PACKAGES); do \
+	  dpkg-query -W -f='$${Status}' $$p 2>/dev/null | grep -q "install ok installed" || missing="$$missing $$p"; \
+	done; \
+	if [ -n "$$missing" ]; then \
+	  echo "Pacotes em falta:$$missing"; \
+	  if [ "$$(id -u)" = "0" ]; then \
+	    apt-get update && DEBIAN_FRONTEND=noninteractive apt-get install -y $(PACKAGES); \
+	  else \
+	    echo "Execute como root:"; \
+	    echo "  apt-get update && apt-get install -y $(PACKAGES)"; \
+	    exit 1; \
+	  fi; \
+	fi
+
+build: deps
+	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo
+	cmake --build build -j $(JOBS)
+
+build-asan: deps
+	cmake -S . -B build-asan -DCMAKE_BUILD_TYPE=Debug -DPILARIX_UI=OFF -DPILARIX_SANITIZE=ON
+	cmake --build build-asan -j $(JOBS)
+
+run: build
+	@if [ -x build/pilarix ]; then ./build/pilarix; else ./build/pilarix-cli; fi
+
+test: build build-asan
+	cd build && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
+	cd build-asan && ctest --output-on-failure -j $(JOBS)
+
+bench: deps
+	cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DPILARIX_UI=OFF -DPILARIX_TESTS=OFF -DPILARIX_BENCH=ON
+	cmake --build build-bench -j $(JOBS)
+	./build-bench/bench/pilarix_bench
+
+clean:
+	rm -rf build build-asan build-bench

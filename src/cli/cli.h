@@ -1,0 +1,24 @@
+#pragma once
+// pilarix-cli: the calculation of the main window without a screen, for scripts,
+// tests and comparisons. It drives the same Program through the same form model.
+
+#include "driver/program.h"
+
+#include <nlohmann/json.hpp>
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace pilarix {
+
+// Runs the command line; returns the exit status (0 ran, 2 bad arguments or file).
+int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+
+// The calculation state, keyed by field name.
+nlohmann::ordered_json estadoJson(const Program& program);
+
+// The text of every text box of the main window, keyed by control name.
+nlohmann::ordered_json caixasJson(const Program& program);
+
+} // namespace pilarix
