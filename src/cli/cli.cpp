@@ -251,14 +251,48 @@ nlohmann::ordered_json estadoJson(const Program& p)
     PILARIX_FIELD(ItemNorma);
     PILARIX_FIELD(Recalcula);
     PILARIX_FIELD(NSolucoes);
+    PILARIX_FIELD(SolucaoAtual);
+    PILARIX_FIELD(EpsInf);
+    PILARIX_FIELD(PatamarC);
+    PILARIX_FIELD(EtaLinC1);
+    PILARIX_FIELD(EtaLinC2);
+    PILARIX_FIELD(BetaXA);
+    PILARIX_FIELD(BetaXE);
+    PILARIX_FIELD(Passo);
+    PILARIX_FIELD(Resid);
+    PILARIX_FIELD(ResidAnt);
+    PILARIX_FIELD(ProdResid);
+    PILARIX_FIELD(BetaXIni);
+    PILARIX_FIELD(BetaXMax);
+    PILARIX_FIELD(EpsInfIni);
+    PILARIX_FIELD(EpsInfMax);
+    PILARIX_FIELD(AsNecCopia);
+    PILARIX_FIELD(Delta2);
+    PILARIX_FIELD(DeltaD);
+    PILARIX_FIELD(MeiaAltura);
+    PILARIX_FIELD(MeioD);
+    PILARIX_FIELD(TextoLimite);
+    PILARIX_FIELD(AlturaInterna);
+    PILARIX_FIELD(BaseEstribo);
+    PILARIX_FIELD(AlturaEstribo);
+    PILARIX_FIELD(ComprEstribo);
+    PILARIX_FIELD(EspEstriboEsc);
+    PILARIX_FIELD(DiamEstriboEsc);
+    PILARIX_FIELD(TextoEstribo);
+    PILARIX_FIELD(nMeioH);
+    PILARIX_FIELD(nMeioV);
 #undef PILARIX_FIELD
-    j["AsCam"] = nlohmann::ordered_json::array();
-    j["YRel"] = nlohmann::ordered_json::array();
-    j["NBarCam"] = nlohmann::ordered_json::array();
+    // The layer arrays, layer i at element i - 1; the strains and stresses of the
+    // last field evaluated, layer i at element i.
+    for (const char* name : {"AsCam", "YCam", "YRel", "NBarCam", "Eps", "Sig"})
+        j[name] = nlohmann::ordered_json::array();
     for (long i = 0; i < p.nAltura && i < 500; ++i) {
         j["AsCam"].push_back(p.AsCam(i));
+        j["YCam"].push_back(p.YCam(i));
         j["YRel"].push_back(p.YRel(i));
         j["NBarCam"].push_back(p.NBarCam(i));
+        j["Eps"].push_back(p.Eps(i + 1));
+        j["Sig"].push_back(p.Sig(i + 1));
     }
     auto flags = [](const VbArray<std::string, 1, 500>& a, double n) {
         nlohmann::ordered_json arr = nlohmann::ordered_json::array();

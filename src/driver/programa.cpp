@@ -44,9 +44,9 @@ void Program::passoNulo(double antes, double depois, const char* etapa)
 {
     if (antes == depois)
         throw CalcError(std::string("A busca de ") + etapa
-                        + " não pode avançar: o passo ficou menor que a resolução dos números (ν = " + Str(Ni)
-                        + ", μ = " + Str(Mi) + ", precisão = " + Str(Precisao)
-                        + "). Verifique a precisão em Valores > Outros.");
+                        + " não encontrou o equilíbrio da seção: o passo ficou menor que a resolução dos números"
+                        + " (ν = " + Str(Ni) + ", μ = " + Str(Mi) + ", δ = " + Str(Delta) + ", precisão = "
+                        + Str(Precisao) + ").");
 }
 
 void Program::verificaPontoFlutuante(const char* etapa)

@@ -1,23 +1,395 @@
-// Project files and the default-values file "Padrão.txt".
+// Project files and the default-values file "Padrão.txt": the whole input of the
+// main window and the four settings of "Outros valores", one record a line.
 
 #include "driver/program.h"
 
+#include "files/field_reader.h"
+
+#include <array>
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <system_error>
+
 namespace pilarix {
 
-void Program::Grava32() {}
+namespace {
 
-void Program::Carrega33() {}
+constexpr const char* kArquivoPadrao = "Padrão.txt";
+constexpr std::size_t kRegistros = 39;
 
-void Program::Form_Load() {}
+enum class Tipo {
+    Texto,   // a box's text, as it stands
+    Verdade, // "True" / "False": an enabled or selected state
+    Caixa,   // a check box: 0, 1 or 2, written with a leading blank
+    Lista,   // a list's text, which must be one of its entries
+};
 
-void Program::Command7_Click() {}
+// The two hooks are found by caption, not by their place in the option array, so
+// that a file says the same thing whatever the order of the array.
+constexpr const char* kGancho90 = "&90";
+constexpr const char* kGancho45 = "&45     ou semi-circ.";
 
-void Program::mnuItemCarregpadr_Click() {}
+OptionButton& gancho(Form1Model& f, const char* caption)
+{
+    for (auto& o : f.Option7)
+        if (o.Caption == caption)
+            return o;
+    return std::string(caption) == kGancho90 ? f.Option7[1] : f.Option7[0];
+}
+const OptionButton& gancho(const Form1Model& f, const char* caption)
+{
+    return gancho(const_cast<Form1Model&>(f), caption);
+}
 
-void Program::mnuItemSaveDefault_Click() {}
+std::string verdade(bool b) { return b ? "True" : "False"; }
+bool deVerdade(const std::string& s) { return s == "True"; }
+// A number printed to a file reserves its first place for the sign.
+std::string caixa(int v)
+{
+    std::string texto = std::to_string(v);
+    if (v >= 0)
+        texto.insert(texto.begin(), ' ');
+    return texto;
+}
 
-void Program::mnuItemload_Click() {}
+// An option button set to True clears the rest of its group, as clicking it does.
+template <typename... Outros>
+void opcao(const std::string& s, OptionButton& o, Outros&... outros)
+{
+    if (deVerdade(s))
+        selectOption(o, outros...);
+    else
+        o.Value = false;
+}
 
-void Program::mnuItemSave_Click() {}
+void opcaoGancho(Forms& p, const std::string& s, const char* caption)
+{
+    OptionButton& o = gancho(p.Form1, caption);
+    if (!deVerdade(s)) {
+        o.Value = false;
+        return;
+    }
+    for (auto& outro : p.Form1.Option7)
+        outro.Value = false;
+    o.Value = true;
+}
+
+struct Registro {
+    const char* controle; // how the message names it
+    Tipo tipo;
+    const std::vector<std::string>* lista;
+    std::string (*valor)(const Forms&);
+    void (*atribui)(Forms&, const std::string&);
+};
+
+// The records in the order of the file.
+const std::array<Registro, kRegistros>& registros()
+{
+    using L = const std::vector<std::string>*;
+    static const std::array<Registro, kRegistros> tabela{{
+        {"Text23, comprimento", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text23.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Text23.Text = s; }},
+        {"Text1, base", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text1.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Text1.Text = s; }},
+        {"Text2, altura", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text2.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Text2.Text = s; }},
+        {"Text31, passo da base", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text31.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Text31.Text = s; }},
+        {"Text32, passo da altura", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text32.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Text32.Text = s; }},
+        {"Text4, barras nas faces da base", Tipo::Texto, nullptr,
+         [](const Forms& p) { return p.Form1.Text4.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Text4.Text = s; }},
+        {"Text5, barras nas faces da altura", Tipo::Texto, nullptr,
+         [](const Forms& p) { return p.Form1.Text5.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Text5.Text = s; }},
+        {"Text3, d'", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text3.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Text3.Text = s; }},
+        {"Text3 habilitado", Tipo::Verdade, nullptr, [](const Forms& p) { return verdade(p.Form1.Text3.Enabled); },
+         [](Forms& p, const std::string& s) { p.Form1.Text3.Enabled = deVerdade(s); }},
+        {"Command17 (estimrar d') habilitado", Tipo::Verdade, nullptr,
+         [](const Forms& p) { return verdade(p.Form1.Command17.Enabled); },
+         [](Forms& p, const std::string& s) { p.Form1.Command17.Enabled = deVerdade(s); }},
+        {"Check1, corrigir o cobrimento sem perguntar", Tipo::Caixa, nullptr,
+         [](const Forms& p) { return caixa(p.Form1.Check1.Value); },
+         [](Forms& p, const std::string& s) { p.Form1.Check1.Value = s[0] - '0'; }},
+        {"Text16, Nd", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text16.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Text16.Text = s; }},
+        {"Text17, Md", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text17.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Text17.Text = s; }},
+        {"Text18, Fck", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text18.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Text18.Text = s; }},
+        {"Text20, Es", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text20.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Text20.Text = s; }},
+        {"Text21, coeficiente do concreto", Tipo::Texto, nullptr,
+         [](const Forms& p) { return p.Form1.Text21.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Text21.Text = s; }},
+        {"Text22, coeficiente do aço", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text22.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Text22.Text = s; }},
+        {"Combo4, unidade de Nd", Tipo::Lista, L{&lists::forca}, [](const Forms& p) { return p.Form1.Combo4.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Combo4.Text = s; }},
+        {"Combo5, unidade de Md", Tipo::Lista, L{&lists::momento},
+         [](const Forms& p) { return p.Form1.Combo5.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Combo5.Text = s; }},
+        {"Combo6, unidade de Fck", Tipo::Lista, L{&lists::tensao},
+         [](const Forms& p) { return p.Form1.Combo6.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Combo6.Text = s; }},
+        {"Combo1, aço", Tipo::Lista, L{&lists::aco}, [](const Forms& p) { return p.Form1.Combo1.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Combo1.Text = s; }},
+        {"Combo7, unidade de Es", Tipo::Lista, L{&lists::tensao},
+         [](const Forms& p) { return p.Form1.Combo7.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Combo7.Text = s; }},
+        {"Option3, estribo pré-definido", Tipo::Verdade, nullptr,
+         [](const Forms& p) { return verdade(p.Form1.Option3.Value); },
+         [](Forms& p, const std::string& s) { opcao(s, p.Form1.Option3, p.Form1.Option5, p.Form1.Option6); }},
+        {"Check5, mesmo tipo de aço", Tipo::Caixa, nullptr,
+         [](const Forms& p) { return caixa(p.Form1.Check5.Value); },
+         [](Forms& p, const std::string& s) { p.Form1.Check5.Value = s[0] - '0'; }},
+        {"Option5, estribo mais econômico", Tipo::Verdade, nullptr,
+         [](const Forms& p) { return verdade(p.Form1.Option5.Value); },
+         [](Forms& p, const std::string& s) { opcao(s, p.Form1.Option5, p.Form1.Option3, p.Form1.Option6); }},
+        {"Option6, estribo definido manualmente", Tipo::Verdade, nullptr,
+         [](const Forms& p) { return verdade(p.Form1.Option6.Value); },
+         [](Forms& p, const std::string& s) { opcao(s, p.Form1.Option6, p.Form1.Option3, p.Form1.Option5); }},
+        {"Combo3, estribo pré-definido", Tipo::Lista, L{&lists::estribo},
+         [](const Forms& p) { return p.Form1.Combo3.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Combo3.Text = s; }},
+        {"Option7, gancho &90", Tipo::Verdade, nullptr,
+         [](const Forms& p) { return verdade(gancho(p.Form1, kGancho90).Value); },
+         [](Forms& p, const std::string& s) { opcaoGancho(p, s, kGancho90); }},
+        {"Option7, gancho &45 ou semi-circ.", Tipo::Verdade, nullptr,
+         [](const Forms& p) { return verdade(gancho(p.Form1, kGancho45).Value); },
+         [](Forms& p, const std::string& s) { opcaoGancho(p, s, kGancho45); }},
+        {"Combo2, classe de agressividade", Tipo::Lista, L{&lists::agressividade},
+         [](const Forms& p) { return p.Form1.Combo2.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Combo2.Text = s; }},
+        {"Option1, dc = 10mm", Tipo::Verdade, nullptr, [](const Forms& p) { return verdade(p.Form1.Option1.Value); },
+         [](Forms& p, const std::string& s) { opcao(s, p.Form1.Option1, p.Form1.Option2); }},
+        {"Option2, dc = 5mm", Tipo::Verdade, nullptr, [](const Forms& p) { return verdade(p.Form1.Option2.Value); },
+         [](Forms& p, const std::string& s) { opcao(s, p.Form1.Option2, p.Form1.Option1); }},
+        {"Outros valores: diâmetro máximo do agregado", Tipo::Texto, nullptr,
+         [](const Forms& p) { return p.Form8.Text2.Text; },
+         [](Forms& p, const std::string& s) { p.Form8.Text2.Text = s; }},
+        {"Outros valores: precisão", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form8.Text1.Text; },
+         [](Forms& p, const std::string& s) { p.Form8.Text1.Text = s; }},
+        {"Text6, escala", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text6.Text; },
+         [](Forms& p, const std::string& s) { p.Form1.Text6.Text = s; }},
+        {"Text6 habilitado", Tipo::Verdade, nullptr, [](const Forms& p) { return verdade(p.Form1.Text6.Enabled); },
+         [](Forms& p, const std::string& s) { p.Form1.Text6.Enabled = deVerdade(s); }},
+        {"Check2, bitola automática", Tipo::Caixa, nullptr,
+         [](const Forms& p) { return caixa(p.Form1.Check2.Value); },
+         [](Forms& p, const std::string& s) { p.Form1.Check2.Value = s[0] - '0'; }},
+        {"Outros valores: diâmetro máximo dos estribos", Tipo::Lista, L{&lists::estribo},
+         [](const Forms& p) { return p.Form8.Combo1.Text; },
+         [](Forms& p, const std::string& s) { p.Form8.Combo1.Text = s; }},
+        {"Outros valores: diâmetro máximo das barras longitudinais", Tipo::Lista, L{&lists::longitudinal},
+         [](const Forms& p) { return p.Form8.Combo3.Text; },
+         [](Forms& p, const std::string& s) { p.Form8.Combo3.Text = s; }},
+    }};
+    return tabela;
+}
+
+std::string motivo(const std::error_code& ec)
+{
+    switch (static_cast<std::errc>(ec.value())) {
+    case std::errc::no_such_file_or_directory:
+        return "o arquivo ou a pasta não existe";
+    case std::errc::permission_denied:
+    case std::errc::operation_not_permitted:
+        return "sem permissão de acesso";
+    case std::errc::is_a_directory:
+        return "o nome é de uma pasta";
+    case std::errc::read_only_file_system:
+        return "o disco é somente leitura";
+    case std::errc::no_space_on_device:
+        return "o disco está cheio";
+    default:
+        return ec.message();
+    }
+}
+
+std::string aspas(const std::string& s) { return "\"" + s + "\""; }
+
+// Writes the records of the forms; false with the reason in ErroArquivo when the
+// file cannot be written.
+bool gravaRegistros(const Forms& origem, const std::string& nome, std::string& erro)
+{
+    std::string texto;
+    for (const auto& r : registros())
+        texto += r.valor(origem) + "\r\n";
+
+    std::error_code ec;
+    if (std::filesystem::is_directory(std::filesystem::path(nome), ec)) {
+        erro = "Não foi possível gravar o arquivo " + aspas(nome) + ": o nome é de uma pasta.";
+        return false;
+    }
+    errno = 0;
+    std::ofstream out(nome, std::ios::binary | std::ios::trunc);
+    if (!out) {
+        const int e = errno != 0 ? errno : EACCES;
+        erro = "Não foi possível gravar o arquivo " + aspas(nome) + ": " + motivo({e, std::generic_category()})
+               + ".";
+        return false;
+    }
+    out.write(texto.data(), static_cast<std::streamsize>(texto.size()));
+    out.close();
+    if (!out) {
+        erro = "Não foi possível gravar o arquivo " + aspas(nome) + ": a gravação foi interrompida.";
+        return false;
+    }
+    return true;
+}
+
+// Reads the fields of a file; false with the reason when it cannot be read.
+bool leCampos(const std::string& nome, std::vector<std::string>& campos, std::string& erro)
+{
+    const std::filesystem::path caminho(nome);
+    std::error_code ec;
+    if (std::filesystem::is_directory(caminho, ec)) {
+        erro = "Não foi possível ler o arquivo " + aspas(nome) + ": o nome é de uma pasta.";
+        return false;
+    }
+    errno = 0;
+    std::ifstream in(nome, std::ios::binary);
+    if (!in) {
+        const int e = errno != 0 ? errno : ENOENT;
+        erro = "Não foi possível ler o arquivo " + aspas(nome) + ": " + motivo({e, std::generic_category()}) + ".";
+        return false;
+    }
+    std::ostringstream bytes;
+    bytes << in.rdbuf();
+    if (in.bad()) {
+        erro = "Não foi possível ler o arquivo " + aspas(nome) + ": a leitura foi interrompida.";
+        return false;
+    }
+    campos = camposDelimitados(textoUtf8(bytes.str()));
+    return true;
+}
+
+// The first record whose value does not fit its control, or an empty text.
+std::string validaCampos(const std::vector<std::string>& campos, const std::string& nome)
+{
+    if (campos.size() < kRegistros)
+        return "O arquivo " + aspas(nome) + " tem " + std::to_string(campos.size())
+               + " registros e um arquivo de valores tem " + std::to_string(kRegistros) + ": falta o registro "
+               + std::to_string(campos.size() + 1) + " (" + registros()[campos.size()].controle
+               + "). Nenhum valor foi carregado.";
+    for (std::size_t i = 0; i < kRegistros; ++i) {
+        const Registro& r = registros()[i];
+        const std::string& v = campos[i];
+        std::string esperado;
+        switch (r.tipo) {
+        case Tipo::Texto:
+            break;
+        case Tipo::Verdade:
+            if (v != "True" && v != "False")
+                esperado = "deveria ser True ou False";
+            break;
+        case Tipo::Caixa:
+            if (v != "0" && v != "1" && v != "2")
+                esperado = "deveria ser 0, 1 ou 2";
+            break;
+        case Tipo::Lista: {
+            bool achou = false;
+            for (const auto& item : *r.lista)
+                achou = achou || item == v;
+            if (!achou) {
+                esperado = "não está na lista, que aceita";
+                for (std::size_t k = 0; k < r.lista->size(); ++k)
+                    esperado += (k == 0 ? " " : ", ") + aspas((*r.lista)[k]);
+            }
+            break;
+        }
+        }
+        if (!esperado.empty())
+            return "Arquivo " + aspas(nome) + ", registro " + std::to_string(i + 1) + " (" + r.controle
+                   + "): o valor " + aspas(v) + " " + esperado + ". Nenhum valor foi carregado.";
+    }
+    return {};
+}
+
+void mostraErroDeArquivo(Program& p)
+{
+    p.MensagemErro = p.ErroArquivo;
+    p.ItemNorma.clear();
+    p.MostraErro();
+}
+
+} // namespace
+
+void Program::Grava32()
+{
+    ErroArquivo.clear();
+    if (!gravaRegistros(*this, NomeArquivo, ErroArquivo))
+        mostraErroDeArquivo(*this);
+}
+
+void Program::Carrega33()
+{
+    ErroArquivo.clear();
+    std::vector<std::string> campos;
+    if (leCampos(NomeArquivo, campos, ErroArquivo))
+        ErroArquivo = validaCampos(campos, NomeArquivo);
+    if (!ErroArquivo.empty()) {
+        // Nothing is half-loaded: the window keeps every value it had.
+        mostraErroDeArquivo(*this);
+        return;
+    }
+    Zera31();
+    for (std::size_t i = 0; i < kRegistros; ++i)
+        registros()[i].atribui(*this, campos[i]);
+}
+
+void Program::Form_Load()
+{
+    NomeArquivo = kArquivoPadrao;
+    std::error_code ec;
+    if (!std::filesystem::exists(std::filesystem::path(NomeArquivo), ec)) {
+        // The first start in a folder: the defaults of the window become the file.
+        ErroArquivo.clear();
+        const Forms padrao{};
+        if (!gravaRegistros(padrao, NomeArquivo, ErroArquivo)) {
+            mostraErroDeArquivo(*this);
+            return;
+        }
+    }
+    Carrega33();
+}
+
+void Program::Command7_Click()
+{
+    NomeArquivo = kArquivoPadrao;
+    Carrega33();
+}
+
+void Program::mnuItemCarregpadr_Click()
+{
+    NomeArquivo = kArquivoPadrao;
+    Carrega33();
+}
+
+void Program::mnuItemSaveDefault_Click()
+{
+    NomeArquivo = kArquivoPadrao;
+    Grava32();
+}
+
+void Program::mnuItemload_Click()
+{
+    NomeArquivo = dialogs().askOpenFileName();
+    if (!NomeArquivo.empty())
+        Carrega33();
+    // Also after a cancelled dialog: the window's values are calculated as they stand.
+    Programa0();
+}
+
+void Program::mnuItemSave_Click()
+{
+    NomeArquivo = dialogs().askSaveFileName();
+    if (!NomeArquivo.empty())
+        Grava32();
+}
 
 } // namespace pilarix

@@ -25,6 +25,7 @@ struct SolutionRow {
     double IndiceEstribo = 0; // catalogue index of the stirrup, 1 to 4
     double DiamEstribo = 0;   // stirrup diameter, cm
     double dLinha = 0;        // the candidate's final d', cm, so that it recalculates exactly
+    double LambdaC1 = 0;      // λ of the first reference field in the candidate's last pass
 };
 
 struct CalcState {
@@ -137,6 +138,7 @@ struct CalcState {
     double NSolucoes = 0;
     std::int16_t SolucaoAtual = 0;
     std::string SolucaoNoForm; // "s" once a stored solution has been put into the window
+    double IndiceEstriboBusca = 0; // catalogue index of the stirrup of the candidate being tried
     std::vector<SolutionRow> Solucoes;   // in the order of discovery (row k at index k - 1)
     std::vector<SolutionRow> Ordenadas;  // ascending by weight, stable
 

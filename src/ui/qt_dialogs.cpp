@@ -1,0 +1,77 @@
+#include "ui/qt_dialogs.h"
+
+#include "ui/cover_dialog.h"
+#include "ui/error_dialog.h"
+#include "ui/stirrup_choice_dialog.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace pilarix::ui {
+
+QtDialogs::QtDialogs(QWidget* parent) : parent_(parent) {}
+
+QtDialogs::~QtDialogs()
+{
+    // The dialogs are children of the window when it exists; the others go here.
+    for (QDialog* d : std::initializer_list<QDialog*>{erro_, cobrimento_, estribos_})
+        if (d && !d->parent())
+            delete d;
+}
+
+void QtDialogs::showError(const Form2Model& form)
+{
+    if (!erro_)
+        erro_ = new ErrorDialog(parent_);
+    erro_->preenche(form);
+    erro_->exec();
+}
+
+int QtDialogs::askCover(const Form4Model& form)
+{
+    if (!cobrimento_)
+        cobrimento_ = new CoverDialog(parent_);
+    cobrimento_->preenche(form);
+    return cobrimento_->pergunta();
+}
+
+void QtDialogs::chooseStirrup(Form7Model& form)
+{
+    if (!estribos_)
+        estribos_ = new StirrupChoiceDialog(parent_);
+    estribos_->preenche(form);
+    estribos_->exec();
+    estribos_->devolve(form);
+}
+
+void QtDialogs::notice(const std::string& text)
+{
+    QMessageBox caixa(QMessageBox::Information, QStringLiteral("Pilarix Normal"), QString::fromStdString(text),
+                      QMessageBox::Ok, parent_);
+    caixa.setObjectName(QStringLiteral("aviso"));
+    caixa.exec();
+}
+
+void QtDialogs::beep() { QApplication::beep(); }
+
+std::string QtDialogs::askOpenFileName()
+{
+    const QString nome =
+        QFileDialog::getOpenFileName(parent_, QStringLiteral("Abrir arquivo"), QString(), kFiltroArquivos);
+    return nome.toStdString();
+}
+
+std::string QtDialogs::askSaveFileName()
+{
+    QFileDialog d(parent_, QStringLiteral("Salvar como"), QString(), kFiltroArquivos);
+    d.setAcceptMode(QFileDialog::AcceptSave);
+    d.setFileMode(QFileDialog::AnyFile);
+    // A name typed without an extension still shows under the filter next time.
+    d.setDefaultSuffix(QStringLiteral("TXT"));
+    if (d.exec() != QDialog::Accepted || d.selectedFiles().isEmpty())
+        return {};
+    return d.selectedFiles().constFirst().toStdString();
+}
+
+} // namespace pilarix::ui

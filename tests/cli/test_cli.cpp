@@ -1,0 +1,86 @@
+// The command line: its arguments, its errors and the shape of its JSON.
+
+#include "cli/cli.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+using namespace pilarix;
+
+namespace {
+struct CliRun {
+    int status;
+    std::string out, err;
+};
+
+CliRun runArgs(std::vector<std::string> args)
+{
+    std::ostringstream out, err;
+    const int status = runCli(args, out, err);
+    return {status, out.str(), err.str()};
+}
+} // namespace
+
+TEST(Cli, BadArgumentsGiveOneLineAndStatus2)
+{
+    const std::vector<std::vector<std::string>> cases{
+        {"--set", "Foo=1"},           {"--set", "Combo4=kn"},        {"--set", "Check1=5"},
+        {"--set", "Option3=yes"},     {"--cobrimento", "3"},         {"--estribo", "7"},
+        {"--set"},                    {"--bogus"},                   {"--set", "=3"},
+        {"a.txt", "b.txt"},
+    };
+    for (const auto& args : cases) {
+        const CliRun r = runArgs(args);
+        EXPECT_EQ(r.status, 2) << args[0];
+        EXPECT_TRUE(r.out.empty());
+        EXPECT_EQ(r.err.rfind("pilarix-cli: ", 0), 0u) << r.err;
+    }
+}
+
+TEST(Cli, JsonHoldsTheCorrectedInputsAndInternalValues)
+{
+    const CliRun r = runArgs({"--set", "Text1=8", "--set", "Text4=9", "--json"});
+    ASSERT_EQ(r.status, 0) << r.err;
+    const auto doc = nlohmann::json::parse(r.out);
+    ASSERT_TRUE(doc.contains("Erros"));
+    ASSERT_TRUE(doc.contains("mensagens"));
+    EXPECT_FALSE(doc.contains("solucoes"));
+    EXPECT_EQ(doc["caixas"]["Text1"], "12");
+    EXPECT_EQ(doc["caixas"]["Text7(1)"], "12,5");
+    EXPECT_TRUE(doc["caixas"].contains("Text7(7).destaque"));
+    const auto& e = doc["estado"];
+    EXPECT_EQ(e["Base"], 12);
+    EXPECT_EQ(e["Nd"], 40000);
+    EXPECT_EQ(e["Md"], 1000000);
+    EXPECT_EQ(e["Fck"], 200);
+    EXPECT_EQ(e["Es"], 2100000);
+    for (const char* field : {"AsNec", "Rho", "Zona", "SupH", "SupV", "FlagErro", "NSolucoes", "BetaX"})
+        EXPECT_TRUE(e.contains(field)) << field;
+}
+
+TEST(Cli, NumbersReadBackExactly)
+{
+    const CliRun r = runArgs({"--set", "Text16=333.3", "--json"});
+    const auto doc = nlohmann::json::parse(r.out);
+    EXPECT_EQ(doc["estado"]["Nd"].get<double>(), 333.3 * 100);
+}
+
+TEST(Cli, OptionTrueClearsItsGroupAndSetsAreAppliedInOrder)
+{
+    const CliRun r = runArgs({"--set", "Option2=True", "--set", "Text18=30", "--set", "Text18=19", "--json"});
+    ASSERT_EQ(r.status, 0);
+    const auto doc = nlohmann::json::parse(r.out);
+    EXPECT_EQ(doc["estado"]["Fck"], 190);
+    EXPECT_EQ(doc["mensagens"][0]["mensagem"], "Fck = 19 , inferior a 20 Mpa (valor mínimo para pilares).");
+}
+
+TEST(Cli, AMissingProjectFileIsStatus2)
+{
+    const CliRun r = runArgs({"/nonexistent/dir/projeto.txt", "--json"});
+    EXPECT_EQ(r.status, 2);
+    EXPECT_FALSE(r.err.empty());
+}
