@@ -87,7 +87,7 @@ void poeNaJanela(Program& p, const SolutionRow& s)
     selectOption(f.Option3, f.Option5, f.Option6);
     f.Text3.Text = Str(s.dLinha);
     f.Check3.Value = 0;
-    p.SolucaoNoForm.assign(1, 's'); // not = "s": GCC 12 at -O3 warns falsely (-Wrestrict) on that form
+    p.SolucaoNoForm = "s";
     p.Lambda = s.LambdaC1;
     p.Programa0();
 }
