@@ -223,66 +223,35 @@ void Program::programa0Passes()
 
 void Program::Command1_Click() { Programa0(); }
 
-void Program::Command2_Click()
+namespace {
+// A step button: changes one box by the step held in `passoCaixa` (1 without one),
+// in the direction `sinal`, not going down from `minimo` or below, and writes the
+// new value back as text. The calculation runs whatever the box held.
+void passoDaCaixa(Program& p, TextBox& caixa, const TextBox* passoCaixa, double sinal, double minimo)
 {
-    comMensagemDeErro([this] { Form1.Text4.Text = Str(Val(Form1.Text4.Text) + 1); });
-    Programa0();
-}
-
-void Program::Command3_Click()
-{
-    comMensagemDeErro([this] {
-        const double n = Val(Form1.Text4.Text);
-        if (n > 2)
-            Form1.Text4.Text = Str(n - 1);
+    p.comMensagemDeErro([&] {
+        const double passo = sinal * (passoCaixa != nullptr ? Val(passoCaixa->Text) : 1);
+        const double n = Val(caixa.Text);
+        if (sinal > 0 || n > minimo)
+            caixa.Text = Str(n + passo);
     });
-    Programa0();
+    p.Programa0();
 }
+constexpr double kSemMinimo = -1e300;
+} // namespace
 
-void Program::Command4_Click()
-{
-    comMensagemDeErro([this] { Form1.Text5.Text = Str(Val(Form1.Text5.Text) + 1); });
-    Programa0();
-}
+// Bars per face go down only while there are more than two: a face always has its
+// two corner bars.
+void Program::Command2_Click() { passoDaCaixa(*this, Form1.Text4, nullptr, 1, 2); }
+void Program::Command3_Click() { passoDaCaixa(*this, Form1.Text4, nullptr, -1, 2); }
+void Program::Command4_Click() { passoDaCaixa(*this, Form1.Text5, nullptr, 1, 2); }
+void Program::Command5_Click() { passoDaCaixa(*this, Form1.Text5, nullptr, -1, 2); }
 
-void Program::Command5_Click()
-{
-    comMensagemDeErro([this] {
-        const double n = Val(Form1.Text5.Text);
-        if (n > 2)
-            Form1.Text5.Text = Str(n - 1);
-    });
-    Programa0();
-}
+void Program::Command16_Click() { passoDaCaixa(*this, Form1.Text1, &Form1.Text31, 1, kSemMinimo); }
+void Program::Command13_Click() { passoDaCaixa(*this, Form1.Text1, &Form1.Text31, -1, kSemMinimo); }
+void Program::Command15_Click() { passoDaCaixa(*this, Form1.Text2, &Form1.Text32, 1, kSemMinimo); }
+void Program::Command14_Click() { passoDaCaixa(*this, Form1.Text2, &Form1.Text32, -1, kSemMinimo); }
 
-void Program::Command16_Click()
-{
-    comMensagemDeErro([this] { Form1.Text1.Text = Str(Val(Form1.Text1.Text) + Val(Form1.Text31.Text)); });
-    Programa0();
-}
-
-void Program::Command13_Click()
-{
-    comMensagemDeErro([this] { Form1.Text1.Text = Str(Val(Form1.Text1.Text) - Val(Form1.Text31.Text)); });
-    Programa0();
-}
-
-void Program::Command15_Click()
-{
-    comMensagemDeErro([this] { Form1.Text2.Text = Str(Val(Form1.Text2.Text) + Val(Form1.Text32.Text)); });
-    Programa0();
-}
-
-void Program::Command14_Click()
-{
-    comMensagemDeErro([this] { Form1.Text2.Text = Str(Val(Form1.Text2.Text) - Val(Form1.Text32.Text)); });
-    Programa0();
-}
-
-void Program::SomaNd()
-{
-    comMensagemDeErro([this] { Form1.Text16.Text = Str(Val(Form1.Text16.Text) + 1); });
-    Programa0();
-}
+void Program::SomaNd() { passoDaCaixa(*this, Form1.Text16, nullptr, 1, kSemMinimo); }
 
 } // namespace pilarix
