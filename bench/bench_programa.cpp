@@ -29,14 +29,19 @@ BENCHMARK(BM_Programa0_Padrao);
 
 // A wall-like section with many layers: the strain field of every step of the
 // searches runs over 20 layers.
-void BM_Programa0_40x120_20Barras(benchmark::State& state)
+void secaoParede(pilarix::Program& p)
 {
-    pilarix::SilentDialogs dialogos;
-    pilarix::Program p(dialogos);
     p.Form1.Text1.Text = "40";
     p.Form1.Text2.Text = "120";
     p.Form1.Text3.Text = "4";
     p.Form1.Text5.Text = "20";
+}
+
+void BM_Programa0_40x120_20Barras(benchmark::State& state)
+{
+    pilarix::SilentDialogs dialogos;
+    pilarix::Program p(dialogos);
+    secaoParede(p);
     passeCompleto(state, p);
 }
 BENCHMARK(BM_Programa0_40x120_20Barras);
@@ -47,10 +52,7 @@ void BM_Programa0_40x120_20Barras_ZonaC(benchmark::State& state)
 {
     pilarix::SilentDialogs dialogos;
     pilarix::Program p(dialogos);
-    p.Form1.Text1.Text = "40";
-    p.Form1.Text2.Text = "120";
-    p.Form1.Text3.Text = "4";
-    p.Form1.Text5.Text = "20";
+    secaoParede(p);
     p.Form1.Text16.Text = "3000";
     p.Form1.Text17.Text = "90000";
     passeCompleto(state, p);

@@ -27,7 +27,7 @@ void avaliaCampoEps(Program& p)
 }
 
 // The moment about mid-height of the field minus the applied one.
-double residuoMomento(const Program& p) { return p.Ni * (p.MeioD - p.Kapa) - p.Mi - p.Lambda; }
+double residuoMomento(Program& p) { return p.Ni * (p.MeioD - p.Kapa) - p.Mi - p.Lambda; }
 
 // The force the bars must carry by equilibrium of forces, less the force their
 // moment about the compressed face requires.
@@ -35,6 +35,53 @@ double residuoForcaMomento(Program& p)
 {
     p.MomAco = p.MeioD * p.Ni - p.Mi - p.EtaLin;
     return (p.Ni - p.Eta) - p.MomAco / p.Kapa;
+}
+
+// A march steps the parameter x of the field (βx, or the strain of the least compressed
+// face) until the residual is within the precision; when the residual changes sign,
+// or x passes its limit, it steps back and goes on with a tenth of the step.
+struct Marcha {
+    const char* etapa;
+    double& x;
+    void (*avalia)(Program&);
+    double (*residuo)(Program&);
+    long passos = 0;
+};
+
+// False when the residual is within the precision; otherwise one step forward.
+bool avanca(Program& p, Marcha& m)
+{
+    p.passoDaMarcha(m.passos, m.etapa);
+    if (std::fabs(p.Resid) <= p.Precisao)
+        return false;
+    const double antes = m.x;
+    m.x = m.x + p.Passo;
+    p.passoNulo(antes, m.x, m.etapa);
+    return true;
+}
+
+// The residual of the field just evaluated, and whether it kept its sign.
+void comparaResiduo(Program& p, Marcha& m)
+{
+    p.Resid = m.residuo(p);
+    p.ProdResid = p.Resid * p.ResidAnt;
+    p.ResidAnt = p.Resid;
+}
+
+// Evaluates the field at x and starts the comparison of residuals from it.
+void recomeca(Program& p, Marcha& m)
+{
+    m.avalia(p);
+    p.Resid = m.residuo(p);
+    p.ResidAnt = p.Resid;
+}
+
+// Back to the field before the step, and on with a tenth of it.
+void recua(Program& p, Marcha& m)
+{
+    m.x = m.x - p.Passo;
+    recomeca(p, m);
+    p.Passo = p.Passo / 10;
 }
 
 void rhoPeloMomento(Program& p)
@@ -163,9 +210,7 @@ void Program::Critico21()
 
 void Program::SProc_BK19()
 {
-    const char* etapa = "SProc_BK19";
-    const double P = Precisao;
-    long passos = 0;
+    Marcha m{"SProc_BK19", BetaX, avaliaCampoBx, residuoMomento};
 
     // The march starts from the residual of the field it is given.
     avaliaCampoBx(*this);
@@ -173,49 +218,27 @@ void Program::SProc_BK19()
         return;
     Resid = residuoMomento(*this);
     ResidAnt = Resid;
-    for (;;) {
-        passoDaMarcha(passos, etapa);
-        if (std::fabs(Resid) <= P)
-            return;
-        const double antes = BetaX;
-        BetaX = BetaX + Passo;
-        passoNulo(antes, BetaX, etapa);
+    while (avanca(*this, m)) {
         if (BetaX <= BetaXMax) {
             avaliaCampoBx(*this);
             if (SigMed == 0)
                 return;
-            Resid = residuoMomento(*this);
-            ProdResid = Resid * ResidAnt;
-            ResidAnt = Resid;
-            if (std::fabs(Resid) <= P)
+            comparaResiduo(*this, m);
+            if (std::fabs(Resid) <= Precisao)
                 return;
             if (ProdResid > 0)
                 continue;
         }
-        BetaX = BetaX - Passo;
-        avaliaCampoBx(*this);
-        Resid = residuoMomento(*this);
-        ResidAnt = Resid;
-        Passo = Passo / 10;
+        recua(*this, m);
     }
 }
 
 void Program::SProc_AK20()
 {
-    const char* etapa = "SProc_AK20";
-    const double P = Precisao;
-    long passos = 0;
+    Marcha m{"SProc_AK20", BetaX, avaliaCampoBx, residuoForcaMomento};
 
-    avaliaCampoBx(*this);
-    Resid = residuoForcaMomento(*this);
-    ResidAnt = Resid;
-    for (;;) {
-        passoDaMarcha(passos, etapa);
-        if (std::fabs(Resid) <= P)
-            return;
-        const double antes = BetaX;
-        BetaX = BetaX + Passo;
-        passoNulo(antes, BetaX, etapa);
+    recomeca(*this, m);
+    while (avanca(*this, m)) {
         if (BetaX <= BetaXMax) {
             avaliaCampoBx(*this);
             if (std::fabs(SigMed) > std::fabs(SigMedY)) {
@@ -225,49 +248,27 @@ void Program::SProc_AK20()
                 SProc_BK19();
                 return;
             }
-            Resid = residuoForcaMomento(*this);
-            ProdResid = Resid * ResidAnt;
-            ResidAnt = Resid;
+            comparaResiduo(*this, m);
             if (ProdResid > 0)
                 continue;
         }
-        BetaX = BetaX - Passo;
-        avaliaCampoBx(*this);
-        Resid = residuoForcaMomento(*this);
-        ResidAnt = Resid;
-        Passo = Passo / 10;
+        recua(*this, m);
     }
 }
 
 void Program::SProc_BC17()
 {
-    const char* etapa = "SProc_BC17";
-    const double P = Precisao;
-    long passos = 0;
+    Marcha m{"SProc_BC17", EpsInfIter, avaliaCampoEps, residuoMomento};
 
-    avaliaCampoEps(*this);
-    Resid = residuoMomento(*this);
-    ResidAnt = Resid;
-    for (;;) {
-        passoDaMarcha(passos, etapa);
-        if (std::fabs(Resid) <= P)
-            return;
-        const double antes = EpsInfIter;
-        EpsInfIter = EpsInfIter + Passo;
-        passoNulo(antes, EpsInfIter, etapa);
-        if (EpsInfIter < EpsInfMax + P) {
+    recomeca(*this, m);
+    while (avanca(*this, m)) {
+        if (EpsInfIter < EpsInfMax + Precisao) {
             avaliaCampoEps(*this);
-            Resid = residuoMomento(*this);
-            ProdResid = Resid * ResidAnt;
-            ResidAnt = Resid;
+            comparaResiduo(*this, m);
             if (ProdResid > 0)
                 continue;
         }
-        EpsInfIter = EpsInfIter - Passo;
-        avaliaCampoEps(*this);
-        Resid = residuoMomento(*this);
-        ResidAnt = Resid;
-        Passo = Passo / 10;
+        recua(*this, m);
     }
 }
 

@@ -36,6 +36,54 @@ void avaliaReferencia(Program& p, double betaX, const Referencia& r)
     *r.kapa = p.Kapa;
     *r.lambda = p.Lambda;
 }
+
+// The marches of μ0 look for the field whose concrete alone balances ν.
+void campoBx(Program& p) { p.SBxTeta07(); }
+
+// The field of a fully shortened section with the strain EpsInfIter at its least
+// compressed face.
+void campoEncurtado(Program& p)
+{
+    p.BetaX = (3 * p.EpsInfIter - 14) / (7 * p.EpsInfIter - 14);
+    p.SBxTeta07();
+}
+
+// Evaluates the field and takes η - ν as the residual.
+void residuoZero(Program& p, void (*campo)(Program&))
+{
+    campo(p);
+    p.Resid = p.Eta - p.Ni;
+}
+
+// The same, compared with the residual before: true when it kept its sign.
+bool mantemSinal(Program& p, void (*campo)(Program&))
+{
+    residuoZero(p, campo);
+    p.ProdResid = p.ResidAnt * p.Resid;
+    p.ResidAnt = p.Resid;
+    return p.ProdResid > 0;
+}
+
+// False when the residual is within the precision; otherwise one step forward of x.
+bool avancaZero(Program& p, double& x, long& passos, const char* etapa)
+{
+    p.passoDaMarcha(passos, etapa);
+    if (std::fabs(p.Resid) <= p.Precisao)
+        return false;
+    const double antes = x;
+    x = x + p.Passo;
+    p.passoNulo(antes, x, etapa);
+    return true;
+}
+
+// Back to the field before the step, and on with a tenth of it.
+void recuaZero(Program& p, double& x, void (*campo)(Program&))
+{
+    x = x - p.Passo;
+    residuoZero(p, campo);
+    p.ResidAnt = p.Resid;
+    p.Passo = p.Passo / 10;
+}
 } // namespace
 
 void Program::SConstZ10()
@@ -101,7 +149,6 @@ void Program::SMiZero14()
     if (!(Ni > 0 && Ni < 1))
         return;
 
-    const double P = Precisao;
     const char* etapa = "SMiZero14";
     long passos = 0;
 
@@ -114,28 +161,16 @@ void Program::SMiZero14()
     Resid = -Ni;
     ResidAnt = -Ni;
     for (;;) {
-        passoDaMarcha(passos, etapa);
-        if (std::fabs(Resid) <= P) {
+        if (!avancaZero(*this, BetaX, passos, etapa)) {
             Mi0 = MeioD * Eta - EtaLin;
             return;
         }
-        const double antes = BetaX;
-        BetaX = BetaX + Passo;
-        passoNulo(antes, BetaX, etapa);
-        if (BetaX > 1 + P)
+        if (BetaX > 1 + Precisao)
             break;
-        SBxTeta07();
-        Resid = Eta - Ni;
-        ProdResid = ResidAnt * Resid;
-        ResidAnt = Resid;
-        if (ProdResid > 0)
+        if (mantemSinal(*this, campoBx))
             continue;
         // The root was passed or hit: back one step and march on with a tenth of it.
-        BetaX = BetaX - Passo;
-        SBxTeta07();
-        Resid = Eta - Ni;
-        ResidAnt = Resid;
-        Passo = Passo / 10;
+        recuaZero(*this, BetaX, campoBx);
     }
 
     // Phase 2: the whole section shortened, the field given by the strain e of the
@@ -143,31 +178,12 @@ void Program::SMiZero14()
     EpsInfIter = 0;
     BetaX = 1;
     Passo = 0.5;
-    SBxTeta07();
-    Resid = Eta - Ni;
+    residuoZero(*this, campoBx);
     ResidAnt = Resid;
-    for (;;) {
-        passoDaMarcha(passos, etapa);
-        if (std::fabs(Resid) <= P)
-            break;
-        const double antes = EpsInfIter;
-        EpsInfIter = EpsInfIter + Passo;
-        passoNulo(antes, EpsInfIter, etapa);
-        if (EpsInfIter < 2) {
-            BetaX = (3 * EpsInfIter - 14) / (7 * EpsInfIter - 14);
-            SBxTeta07();
-            Resid = Eta - Ni;
-            ProdResid = ResidAnt * Resid;
-            ResidAnt = Resid;
-            if (ProdResid > 0)
-                continue;
-        }
-        EpsInfIter = EpsInfIter - Passo;
-        BetaX = (3 * EpsInfIter - 14) / (7 * EpsInfIter - 14);
-        SBxTeta07();
-        Resid = Eta - Ni;
-        ResidAnt = Resid;
-        Passo = Passo / 10;
+    while (avancaZero(*this, EpsInfIter, passos, etapa)) {
+        if (EpsInfIter < 2 && mantemSinal(*this, campoEncurtado))
+            continue;
+        recuaZero(*this, EpsInfIter, campoEncurtado);
     }
     Mi0 = MeioD * Eta - EtaLin;
 }

@@ -1,5 +1,6 @@
 // The bar catalogue and the choice of a real bar for the required area.
 
+#include "detailing/bar_scan.h"
 #include "driver/program.h"
 
 #include "input/number_text.h"
@@ -12,31 +13,17 @@ constexpr const char* kBitolaInsuficiente =
     "Diâmetro das barras longitudinais devem ser superiores à maior bitola definida pelo usuário.";
 constexpr const char* kItemDiametroMaximo = "Item 18.4.2.1 do Projeto de revisão da NB1 / 2001";
 
-// Catalogue bar 4 (10 mm) is the smallest bar a column may carry lengthwise.
-constexpr long kMenorBitolaLongitudinal = 4;
-
 enum class Escolha { Ok, BitolaInsuficiente, DiametroExcessivo };
 
 // Steps shared by the window and the silent check: the smallest allowed bar whose
 // area covers the area required per bar, then the 1/8-of-the-smaller-side limit.
 Escolha escolheBarra(Program& p)
 {
-    const long k = p.IndiceBitolaMax;
-    if (p.AsNecBarra > p.AreaBitola(k)) {
+    if (!escolheMenorBarra(p)) {
         p.AsBarra = 0;
         p.AsReal = 0;
         return Escolha::BitolaInsuficiente;
     }
-    // A counted loop: when k is below 4 it does not run and leaves the counter at 4.
-    for (p.Indice = kMenorBitolaLongitudinal; p.Indice <= k; ++p.Indice)
-        if (p.AreaBitola(p.Indice) - p.AsNecBarra >= 0)
-            break;
-    const long i = p.Indice;
-    p.AsBarra = p.AreaBitola(i);
-    p.AsReal = p.NBarrasTotal * p.AreaBitola(i);
-    p.DiamLong = p.DiamBitola(i);
-    p.PesoLinearLong = p.PesoBitola(i);
-    p.Indice = i;
     // NBR 6118, 18.4.2.1: a longitudinal bar no thicker than 1/8 of the smaller side.
     if (p.DiamLong > p.MenorDim / 8)
         return Escolha::DiametroExcessivo;
@@ -44,6 +31,25 @@ Escolha escolheBarra(Program& p)
 }
 
 } // namespace
+
+bool escolheMenorBarra(Program& p)
+{
+    // Catalogue bar 4 (10 mm) is the smallest bar a column may carry lengthwise.
+    constexpr long kMenorBitolaLongitudinal = 4;
+    const long k = p.IndiceBitolaMax;
+    if (p.AsNecBarra > p.AreaBitola(k))
+        return false;
+    // A counted loop: when k is below 4 it does not run and leaves the counter at 4.
+    for (p.Indice = kMenorBitolaLongitudinal; p.Indice <= k; ++p.Indice)
+        if (p.AreaBitola(p.Indice) >= p.AsNecBarra)
+            break;
+    const long i = p.Indice;
+    p.AsBarra = p.AreaBitola(i);
+    p.AsReal = p.NBarrasTotal * p.AreaBitola(i);
+    p.DiamLong = p.DiamBitola(i);
+    p.PesoLinearLong = p.PesoBitola(i);
+    return true;
+}
 
 void Program::Bitolas22()
 {

@@ -1,5 +1,6 @@
 // Wall columns, the additional coefficient, and minimum and maximum steel.
 
+#include "detailing/bar_scan.h"
 #include "driver/program.h"
 
 #include "input/number_text.h"
@@ -20,8 +21,7 @@ void taxaMinima(Program& p, bool mostra)
 {
     p.AsNec = p.AsMin;
     p.AsNecBarra = p.AsNec / p.NBarrasTotal;
-    const long k = p.IndiceBitolaMax;
-    if (p.AsNecBarra > p.AreaBitola(k)) {
+    if (!escolheMenorBarra(p)) {
         p.FlagErro = "s";
         if (mostra) {
             // The clause line keeps what the last message left there.
@@ -31,14 +31,6 @@ void taxaMinima(Program& p, bool mostra)
         }
         return;
     }
-    for (p.Indice = 4; p.Indice <= k; ++p.Indice)
-        if (p.AreaBitola(p.Indice) >= p.AsNecBarra)
-            break;
-    const long i = p.Indice;
-    p.AsBarra = p.AreaBitola(i);
-    p.AsReal = p.NBarrasTotal * p.AreaBitola(i);
-    p.DiamLong = p.DiamBitola(i);
-    p.PesoLinearLong = p.PesoBitola(i);
     // Not a message: it tells the caller that the bar was chosen again.
     p.MensagemErro = "voltar";
     p.FlagErro = "n";
@@ -88,22 +80,14 @@ void Program::CeoficienteAdic25()
 
     // Thin sections carry the additional coefficient γn of NBR 6118, by whole
     // centimetres of the smaller side; the last row that matches wins.
+    static constexpr struct {
+        double abaixoDe, gama;
+    } kDegraus[] = {{19, 1.05}, {18, 1.1}, {17, 1.15}, {16, 1.2}, {15, 1.25}, {14, 1.3}, {13, 1.35}};
     if (MenorDim >= 19)
         GamaN = 1.0;
-    if (MenorDim < 19)
-        GamaN = 1.05;
-    if (MenorDim < 18)
-        GamaN = 1.1;
-    if (MenorDim < 17)
-        GamaN = 1.15;
-    if (MenorDim < 16)
-        GamaN = 1.2;
-    if (MenorDim < 15)
-        GamaN = 1.25;
-    if (MenorDim < 14)
-        GamaN = 1.3;
-    if (MenorDim < 13)
-        GamaN = 1.35;
+    for (const auto& d : kDegraus)
+        if (MenorDim < d.abaixoDe)
+            GamaN = d.gama;
 }
 
 void Program::AsMinMax24()

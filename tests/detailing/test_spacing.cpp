@@ -1,150 +1,76 @@
 // Free and axis spacing of the longitudinal bars, each check with its own message,
-// the silent twin, and the weight of the longitudinal steel.
+// and the silent twin. (The weight of the steel is checked on the whole calculation.)
 
-#include "cli/recording_dialogs.h"
-#include "driver/program.h"
+#include "detailing/bancada.h"
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
+#include <tuple>
 
 using namespace pilarix;
-
-namespace {
-
-const std::string kItem = "Item 18.4.2.2 do Projeto de revisão da NB1 / 2001";
-const std::string kBarra = " 4 vezes o diâmetro da barra longitudinal";
-const std::string kAgregado = " 2,4 vezes o diâmetro máximo do agragado, fora das emendas";
-const std::string kMenorDim = " 2 vezes a menor dimensão do trecho considerado";
-const std::string kMaximo = "máximo permitido";
-
-std::string livre(const char* direcao, const std::string& esp, const std::string& limite, const std::string& min)
-{
-    return std::string("Espaçamento livre entre barras ") + direcao + " = " + esp + "cm menor que " + limite + " = "
-           + min + "cm";
-}
-
-std::string eixos(const char* direcao, const std::string& esp, const std::string& limite, const std::string& max)
-{
-    return std::string("Espaçamento entre eixos das barras ") + direcao + " = " + esp + "cm maior que " + limite + " = "
-           + max + "cm";
-}
-
-} // namespace
+using pilarix::test::Bancada;
+using pilarix::test::Textos;
 
 TEST(DetailSpacing, FourChecksEachWithItsOwnMessage)
 {
-    struct Linha {
-        const char* nome;
-        double b, h, dLinha, nBase;
-        std::int16_t nAltura;
-        double diamLong, agregado, menorDim;
-        double livreH, livreV, eixoH, eixoV, livreMin, eixoMax;
-        std::string textoLimite; // the one left after the last check
-        std::vector<std::string> mensagens;
+    const std::string barra = " 4 vezes o diâmetro da barra longitudinal";
+    const std::string agregado = " 2,4 vezes o diâmetro máximo do agragado, fora das emendas";
+    const std::string menorDim = " 2 vezes a menor dimensão do trecho considerado";
+    const std::string maximo = "máximo permitido";
+    const auto falha = [](const char* texto, const char* direcao, const char* esp, const std::string& limite,
+                          const char* valor) {
+        return test::erro(std::string(texto) + direcao + " = " + esp + "cm " + limite + " = " + valor + "cm",
+                          "Item 18.4.2.2 do Projeto de revisão da NB1 / 2001");
     };
-    const Linha linhas[] = {
-        {"the default column passes", 20, 50, 4, 2, 4, 1, 0, 20, 11, 13, 12, 14, 4, 40, kMaximo, {}},
-        {"the bar rule governs the free spacing", 20, 50, 4, 2, 4, 1.25, 1.9, 20, 10.75, 12.75, 12, 14, 5, 40,
-         kMaximo, {}},
-        {"aggregate governs the free spacing", 20, 50, 4, 2, 4, 1, 2.5, 20, 11, 13, 12, 14, 6, 40, kMaximo, {}},
-        {"equal rules name the bar", 20, 50, 4, 2, 4, 1.2, 2, 20, 10.8, 12.8, 12, 14, 4.8, 40, kMaximo, {}},
-        {"19 cm side limits the axis spacing to 38", 19, 50, 4, 2, 4, 1, 0, 19, 10, 13, 11, 14, 4, 38, kMenorDim, {}},
-        {"crowded width face", 20, 50, 4, 4, 4, 1.25, 0, 20, 2.75, 12.75, 4, 14, 5, 40, kMaximo,
-         {livre("horizontais", "2.75", kBarra, "5")}},
-        {"free spacing rounded to two decimals", 20, 50, 4, 8, 4, 1, 0, 20, 12.0 / 7 - 1, 13, 12.0 / 7, 14, 4, 40,
-         kMaximo, {livre("horizontais", "0.71", kBarra, "4")}},
-        {"deep face with two bars", 19, 100, 4, 2, 2, 1, 0, 19, 10, 91, 11, 92, 4, 38, kMenorDim,
-         {eixos("verticais", "92", kMenorDim, "38")}},
-        {"every check fails and none stops the others", 100, 100, 4, 2, 2, 1, 40, 100, 91, 91, 92, 92, 96, 40,
-         kMaximo,
-         {livre("horizontais", "91", kAgregado, "96"), livre("verticais", "91", kAgregado, "96"),
-          eixos("horizontais", "92", kMaximo, "40"), eixos("verticais", "92", kMaximo, "40")}},
+    const auto livre = [&](const char* direcao, const char* esp, const std::string& limite, const char* min) {
+        return falha("Espaçamento livre entre barras ", direcao, esp, "menor que " + limite, min);
     };
-    for (const auto& l : linhas) {
+    const auto eixos = [&](const char* direcao, const char* esp, const std::string& limite, const char* max) {
+        return falha("Espaçamento entre eixos das barras ", direcao, esp, "maior que " + limite, max);
+    };
+    // b = smaller side, h, bars on each face, φl, aggregate; the least free spacing, the largest
+    // axis spacing, the limit text the last check leaves, and the messages, which show the
+    // spacings themselves (d' = 4 throughout).
+    const std::tuple<double, double, double, std::int16_t, double, double, double, double, std::string, Textos>
+        linhas[] = {
+            {20, 50, 2, 4, 1, 0, 4, 40, maximo, {}},        // the default column
+            {20, 50, 2, 4, 1.25, 1.9, 5, 40, maximo, {}},   // the bar rule governs
+            {20, 50, 2, 4, 1, 2.5, 6, 40, maximo, {}},      // the aggregate governs
+            {19, 50, 2, 4, 1, 0, 4, 38, menorDim, {}},      // twice the smaller side
+            {20, 50, 4, 4, 1.25, 0, 5, 40, maximo, {livre("horizontais", "2.75", barra, "5")}},
+            {20, 50, 8, 4, 1, 0, 4, 40, maximo, {livre("horizontais", "0.71", barra, "4")}}, // 12/7 - 1 to 2 places
+            {20, 20, 4, 4, 1.2, 2, 4.8, 40, maximo, // equal rules name the bar
+             {livre("horizontais", "2.8", barra, "4.8"), livre("verticais", "2.8", barra, "4.8")}},
+            {19, 100, 2, 2, 1, 0, 4, 38, menorDim, {eixos("verticais", "92", menorDim, "38")}},
+            {100, 100, 2, 2, 1, 40, 96, 40, maximo, // none stops the others
+             {livre("horizontais", "91", agregado, "96"), livre("verticais", "91", agregado, "96"),
+              eixos("horizontais", "92", maximo, "40"), eixos("verticais", "92", maximo, "40")}},
+        };
+    for (const auto& [base, altura, nBase, nAltura, diamLong, diamAgregado, livreMin, eixoMax, limite, mensagens] :
+         linhas) {
         for (const bool silencioso : {false, true}) {
-            RecordingDialogs dialogos;
-            Program p(dialogos);
-            p.Base = l.b;
-            p.Altura = l.h;
-            p.dLinha = l.dLinha;
-            p.nBase = l.nBase;
-            p.nAltura = l.nAltura;
-            p.DiamLong = l.diamLong;
-            p.DiamAgregado = l.agregado;
-            p.MenorDim = l.menorDim;
-            p.FlagErro = "n";
+            Bancada b;
+            auto& p = b.p;
+            p.Base = p.MenorDim = base;
+            p.Altura = altura;
+            p.dLinha = 4;
+            p.nBase = nBase;
+            p.nAltura = nAltura;
+            p.DiamLong = diamLong;
+            p.DiamAgregado = diamAgregado;
             p.MensagemErro = "antes";
-            const std::string nome = std::string(l.nome) + (silencioso ? " (silent)" : "");
             if (silencioso)
                 p.Form10Espaçamento26();
             else
                 p.Espaçamento26();
-
-            EXPECT_DOUBLE_EQ(p.EspLivreH, l.livreH) << nome;
-            EXPECT_DOUBLE_EQ(p.EspLivreV, l.livreV) << nome;
-            EXPECT_DOUBLE_EQ(p.EspEixoH, l.eixoH) << nome;
-            EXPECT_DOUBLE_EQ(p.EspEixoV, l.eixoV) << nome;
-            EXPECT_DOUBLE_EQ(p.EspLivreMin, l.livreMin) << nome;
-            EXPECT_EQ(p.EspEixoMax, l.eixoMax) << nome;
-            EXPECT_EQ(p.TextoLimite, l.textoLimite) << nome;
-            EXPECT_EQ(p.FlagErro, l.mensagens.empty() ? "n" : "s") << nome;
-            if (silencioso) {
-                EXPECT_TRUE(dialogos.messages.empty()) << nome;
-                EXPECT_EQ(p.MensagemErro, "antes") << nome;
-                continue;
-            }
-            std::vector<std::string> mostradas;
-            for (const auto& m : dialogos.messages) {
-                EXPECT_EQ(m["janela"], "Mensagem de erro") << nome;
-                EXPECT_EQ(m["item"], kItem) << nome;
-                mostradas.push_back(m["mensagem"]);
-            }
-            EXPECT_EQ(mostradas, l.mensagens) << nome;
-            EXPECT_EQ(p.MensagemErro, l.mensagens.empty() ? "antes" : l.mensagens.back()) << nome;
+            const auto nome = testing::Message() << base << " x " << altura << (silencioso ? " (silent)" : "");
+            EXPECT_DOUBLE_EQ(p.EspLivreMin, livreMin) << nome;
+            // The window tells every failure and the state keeps the last; the search tells none.
+            EXPECT_EQ(std::tuple(p.EspEixoMax, p.TextoLimite, p.FlagErro, b.mostrados()),
+                      std::tuple(eixoMax, limite, mensagens.empty() ? "n" : "s", silencioso ? Textos{} : mensagens))
+                << nome;
+            const Textos mostradas = b.mostrado("mensagem");
+            EXPECT_EQ(p.MensagemErro, mostradas.empty() ? "antes" : mostradas.back()) << nome;
         }
-    }
-}
-
-TEST(DetailSpacing, FreeSpacingLimitNamesTheBarRuleOnTheBoundary)
-{
-    // 4 φl against 2.4 times the aggregate, both 4.8 cm: the bar rule is named.
-    RecordingDialogs dialogos;
-    Program p(dialogos);
-    p.Base = 20;
-    p.Altura = 20;
-    p.dLinha = 4;
-    p.nBase = 4;
-    p.nAltura = 4;
-    p.DiamLong = 1.2;
-    p.DiamAgregado = 2;
-    p.MenorDim = 20;
-    p.Espaçamento26();
-    ASSERT_EQ(dialogos.messages.size(), 2u);
-    EXPECT_EQ(dialogos.messages[0]["mensagem"], livre("horizontais", "2.8", kBarra, "4.8"));
-    EXPECT_EQ(dialogos.messages[1]["mensagem"], livre("verticais", "2.8", kBarra, "4.8"));
-}
-
-TEST(DetailWeight, LongitudinalSteelOverTheColumnLength)
-{
-    struct Linha {
-        std::int16_t barras;
-        double pesoLinear, comprimento, peso;
-    };
-    const Linha linhas[] = {
-        {8, 1.0, 300, 24},
-        {10, 2.5, 450, 112.5},
-        {4, 0.63, 0, 0},
-        {12, 0.63, 280, 21.168},
-    };
-    for (const auto& l : linhas) {
-        RecordingDialogs dialogos;
-        Program p(dialogos);
-        p.NBarrasTotal = l.barras;
-        p.PesoLinearLong = l.pesoLinear;
-        p.Comprimento = l.comprimento;
-        p.Peso29();
-        EXPECT_DOUBLE_EQ(p.PesoLong, l.peso) << l.barras << " bars";
     }
 }
