@@ -37,14 +37,7 @@ struct Tela {
 
     void linha(double x1, double y1, double x2, double y2, Color c) const
     {
-        DrawItem it;
-        it.kind = DrawItem::Kind::Line;
-        it.x1 = x1;
-        it.y1 = y1;
-        it.x2 = x2;
-        it.y2 = y2;
-        it.color = c;
-        p.Form1.Picture.items.push_back(it);
+        p.Form1.Picture.items.push_back({.kind = DrawItem::Kind::Line, .x1 = x1, .y1 = y1, .x2 = x2, .y2 = y2, .text = {}, .color = c});
     }
     void retangulo(double x1, double y1, double x2, double y2, Color c) const
     {
@@ -55,23 +48,13 @@ struct Tela {
     }
     void barra(double cx, double cy, double raio) const
     {
-        DrawItem it;
-        it.kind = DrawItem::Kind::FilledCircle;
-        it.x1 = cx;
-        it.y1 = cy;
-        it.radius = raio;
-        it.color = kBarra;
-        p.Form1.Picture.items.push_back(it);
+        p.Form1.Picture.items.push_back(
+            {.kind = DrawItem::Kind::FilledCircle, .x1 = cx, .y1 = cy, .radius = raio, .text = {}, .color = kBarra});
     }
     void texto(double x1, double y1, std::string t) const
     {
-        DrawItem it;
-        it.kind = DrawItem::Kind::Text;
-        it.x1 = x1;
-        it.y1 = y1;
-        it.text = std::move(t);
-        it.color = kTexto;
-        p.Form1.Picture.items.push_back(it);
+        p.Form1.Picture.items.push_back(
+            {.kind = DrawItem::Kind::Text, .x1 = x1, .y1 = y1, .text = std::move(t), .color = kTexto});
     }
 };
 

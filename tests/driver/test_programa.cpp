@@ -65,27 +65,28 @@ TEST(Programa0, StepButtonsChangeTheirBoxAndRecalculate)
     }
 }
 
-TEST(Programa0, AFailureInsideAStageIsAMessageNotACrash)
+TEST(Programa0, AFailureInsideTheCalculationIsAMessageNotACrash)
 {
-    // One bar per depth face puts the bar layers at a zero spacing: the method
-    // cannot lay them out, and the user must be told so.
-    Fixture f;
-    f.p.Form1.Text5.Text = "1";
-    f.p.Command1_Click();
-    EXPECT_EQ(f.p.Form1.Text30.Text, "erro");
-    ASSERT_FALSE(f.dialogs.messages.empty());
-    const std::string last = f.dialogs.messages.back()["mensagem"];
-    EXPECT_NE(last.find("Erro de cálculo em SArran1R03"), std::string::npos) << last;
-    EXPECT_EQ(f.p.Form1.Text5.Text, "1") << "the user's input is kept";
-}
-
-TEST(Programa0, AnOverflowingCountIsAMessage)
-{
-    Fixture f;
-    f.p.Form1.Text1.Text = "1e9";
-    f.p.Command1_Click();
-    EXPECT_EQ(f.p.Form1.Text30.Text, "erro");
-    ASSERT_FALSE(f.dialogs.messages.empty());
-    const std::string last = f.dialogs.messages.back()["mensagem"];
-    EXPECT_NE(last.find("16 bits"), std::string::npos) << last;
+    struct Row {
+        const char* name;
+        TextBox Form1Model::*box;
+        const char* value;
+        const char* inMessage;
+    };
+    const Row rows[] = {
+        // One bar per depth face puts the bar layers at a zero spacing.
+        {"layers at zero spacing", &Form1Model::Text5, "1", "Erro de cálculo em SArran1R03"},
+        // A base of 1e9 cm asks for more bars than a 16-bit count holds.
+        {"bar count overflow", &Form1Model::Text1, "1e9", "16 bits"},
+    };
+    for (const auto& r : rows) {
+        Fixture f;
+        (f.p.Form1.*r.box).Text = r.value;
+        f.p.Command1_Click();
+        EXPECT_EQ(f.p.Form1.Text30.Text, "erro") << r.name;
+        ASSERT_FALSE(f.dialogs.messages.empty()) << r.name;
+        const std::string last = f.dialogs.messages.back()["mensagem"];
+        EXPECT_NE(last.find(r.inMessage), std::string::npos) << last;
+        EXPECT_EQ((f.p.Form1.*r.box).Text, r.value) << "the user's input is kept";
+    }
 }
