@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char* kUso =
     "uso: pilarix-cli [ARQUIVO] [--set CONTROLE=VALOR]... [--melhor] [--cobrimento 1|2] "
-    "[--estribo K] [--salvar SAIDA] [--json]";
+    "[--estribo K] [--salvar SAIDA] [--sem-padrao] [--json]";
 
 struct Options {
     std::string file;
@@ -23,6 +23,7 @@ struct Options {
     int estribo = 4;
     std::string salvar;
     bool json = false;
+    bool semPadrao = false; // do not load "Padrão.txt" of the working directory
 };
 
 bool parse(const std::vector<std::string>& args, Options& o, std::string& error)
@@ -42,6 +43,8 @@ bool parse(const std::vector<std::string>& args, Options& o, std::string& error)
             o.json = true;
         } else if (a == "--melhor") {
             o.melhor = true;
+        } else if (a == "--sem-padrao") {
+            o.semPadrao = true;
         } else if (a == "--set") {
             if (!next(v))
                 return false;
@@ -305,6 +308,27 @@ nlohmann::ordered_json estadoJson(const Program& p)
     return j;
 }
 
+nlohmann::ordered_json documentJson(const Program& program, const RecordingDialogs& dialogs, bool melhor)
+{
+    nlohmann::ordered_json doc;
+    doc["Erros"] = program.Form1.Text30.Text;
+    doc["caixas"] = caixasJson(program);
+    doc["estado"] = estadoJson(program);
+    doc["mensagens"] = dialogs.messages;
+    if (melhor) {
+        nlohmann::ordered_json rows = nlohmann::ordered_json::array();
+        for (const auto& s : program.Ordenadas)
+            rows.push_back({{"peso", s.peso},
+                            {"nBase", s.nBase},
+                            {"nAltura", s.nAltura},
+                            {"IndiceEstribo", s.IndiceEstribo},
+                            {"DiamEstribo", s.DiamEstribo},
+                            {"dLinha", s.dLinha}});
+        doc["solucoes"] = rows;
+    }
+    return doc;
+}
+
 int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err)
 {
     Options o;
@@ -319,9 +343,9 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
     dialogs.stirrupOption = o.estribo;
     Program program(dialogs);
 
-    const std::string file = !o.file.empty() ? o.file
-                             : std::filesystem::exists("Padrão.txt") ? std::string("Padrão.txt")
-                                                                      : std::string();
+    const std::string file = !o.file.empty()                                  ? o.file
+                             : !o.semPadrao && std::filesystem::exists("Padrão.txt") ? std::string("Padrão.txt")
+                                                                                     : std::string();
     if (!file.empty() && !load(program, file, error)) {
         err << "pilarix-cli: " << error << "\n";
         return 2;
@@ -355,23 +379,7 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
         report(program, dialogs, out);
         return 0;
     }
-    nlohmann::ordered_json doc;
-    doc["Erros"] = program.Form1.Text30.Text;
-    doc["caixas"] = caixasJson(program);
-    doc["estado"] = estadoJson(program);
-    doc["mensagens"] = dialogs.messages;
-    if (o.melhor) {
-        nlohmann::ordered_json rows = nlohmann::ordered_json::array();
-        for (const auto& s : program.Ordenadas)
-            rows.push_back({{"peso", s.peso},
-                            {"nBase", s.nBase},
-                            {"nAltura", s.nAltura},
-                            {"IndiceEstribo", s.IndiceEstribo},
-                            {"DiamEstribo", s.DiamEstribo},
-                            {"dLinha", s.dLinha}});
-        doc["solucoes"] = rows;
-    }
-    out << doc.dump(2) << "\n";
+    out << documentJson(program, dialogs, o.melhor).dump(2) << "\n";
     return 0;
 }
 

@@ -2,6 +2,7 @@
 // pilarix-cli: the calculation of the main window without a screen, for scripts,
 // tests and comparisons. It drives the same Program through the same form model.
 
+#include "cli/recording_dialogs.h"
 #include "driver/program.h"
 
 #include <nlohmann/json.hpp>
@@ -17,6 +18,10 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
 
 // The calculation state, keyed by field name.
 nlohmann::ordered_json estadoJson(const Program& program);
+
+// The whole document of --json: "Erros", "caixas", "estado", the messages the
+// dialogs recorded and, after a search, "solucoes".
+nlohmann::ordered_json documentJson(const Program& program, const RecordingDialogs& dialogs, bool melhor);
 
 // The text of every text box of the main window, keyed by control name.
 nlohmann::ordered_json caixasJson(const Program& program);

@@ -50,7 +50,7 @@ std::string readBytes(const std::string& path)
 
 void writeBytes(const std::string& path, const std::string& bytes) { std::ofstream(path, std::ios::binary) << bytes; }
 
-std::string golden() { return readBytes(std::string(PILARIX_TEST_DATA) + "/valores_iniciais.txt"); }
+std::string golden() { return readBytes(std::string(PILARIX_TEST_DATA) + "/data/valores_iniciais.txt"); }
 
 // The 39 records of the initial values, edited by a row and joined again.
 std::string edited(const std::function<void(std::vector<std::string>&)>& edit, const char* end = "\r\n")
