@@ -2,7 +2,7 @@
 
 #include "cli/controls_by_name.h"
 #include "cli/recording_dialogs.h"
-#include "input/number_text.h"
+#include "base/number_text.h"
 
 #include <filesystem>
 #include <ostream>

@@ -3,7 +3,7 @@
 #include "detailing/bar_scan.h"
 #include "driver/program.h"
 
-#include "input/number_text.h"
+#include "base/number_text.h"
 
 namespace pilarix {
 

@@ -6,7 +6,7 @@
 
 #include "driver/program.h"
 
-#include "input/number_text.h"
+#include "base/number_text.h"
 
 #include <algorithm>
 #include <cmath>

@@ -5,8 +5,8 @@
 
 #include "driver/program.h"
 
-#include "input/number_text.h"
-#include "state/calc_error.h"
+#include "base/number_text.h"
+#include "base/calc_error.h"
 
 #include <algorithm>
 #include <array>

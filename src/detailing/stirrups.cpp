@@ -2,7 +2,7 @@
 
 #include "driver/program.h"
 
-#include "input/number_text.h"
+#include "base/number_text.h"
 
 namespace pilarix {
 

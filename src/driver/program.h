@@ -182,7 +182,7 @@ private:
 
 } // namespace pilarix
 
-#include "state/calc_error.h"
+#include "base/calc_error.h"
 
 namespace pilarix {
 template <typename F>

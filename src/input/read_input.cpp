@@ -3,7 +3,7 @@
 
 #include "driver/program.h"
 
-#include "input/number_text.h"
+#include "base/number_text.h"
 
 #include <array>
 #include <utility>

@@ -4,7 +4,7 @@
 // and written as A(i), the way the stages are written; an index outside the range
 // is a clear CalcError naming the array and the index, never a stray write.
 
-#include "state/calc_error.h"
+#include "base/calc_error.h"
 
 #include <array>
 #include <cstddef>

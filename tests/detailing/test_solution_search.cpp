@@ -4,7 +4,7 @@
 
 #include "cli/recording_dialogs.h"
 #include "driver/program.h"
-#include "input/number_text.h"
+#include "base/number_text.h"
 
 #include <gtest/gtest.h>
 

@@ -6,7 +6,7 @@
 
 #include "cli/controls_by_name.h"
 #include "cli/recording_dialogs.h"
-#include "input/number_text.h"
+#include "base/number_text.h"
 #include "ui/main_window.h"
 #include "ui/section_view.h"
 #include "ui/solutions_dialog.h"

@@ -1,6 +1,6 @@
-#include "input/number_text.h"
+#include "base/number_text.h"
 
-#include "state/calc_error.h"
+#include "base/calc_error.h"
 
 #include <cerrno>
 #include <cmath>

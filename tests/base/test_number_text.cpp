@@ -1,7 +1,7 @@
 // How numbers are read from the boxes and written into messages and result boxes.
 
-#include "input/number_text.h"
-#include "state/calc_error.h"
+#include "base/number_text.h"
+#include "base/calc_error.h"
 
 #include <gtest/gtest.h>
 
