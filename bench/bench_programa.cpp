@@ -1,7 +1,7 @@
 // One whole "&Calcula" pass: reading, the section design and the detailing, as the
 // window runs it, with the dialogs answered by policy.
 
-#include "driver/program.h"
+#include "window/program.h"
 
 #include <benchmark/benchmark.h>
 

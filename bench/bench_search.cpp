@@ -1,7 +1,7 @@
 // "Calcula &melhor solução": the whole search, from reading the window to the
 // best solution calculated in the window, on three sections of growing size.
 
-#include "driver/program.h"
+#include "window/program.h"
 
 #include <benchmark/benchmark.h>
 

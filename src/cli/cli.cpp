@@ -10,6 +10,46 @@
 namespace pilarix {
 
 namespace {
+// The program's one-letter flags, as it has always listed them.
+const char* letraDaZona(engine::Zone z)
+{
+    switch (z) {
+    case engine::Zone::E:
+        return "E";
+    case engine::Zone::C:
+        return "C";
+    case engine::Zone::A:
+        return "A";
+    case engine::Zone::O:
+        return "O";
+    case engine::Zone::None:
+        break;
+    }
+    return "";
+}
+
+const char* textoDoErro(engine::ErrorFlag f)
+{
+    switch (f) {
+    case engine::ErrorFlag::None:
+        return "n";
+    case engine::ErrorFlag::Failed:
+        return "s";
+    case engine::ErrorFlag::Wall:
+        return "sPparede";
+    case engine::ErrorFlag::Unset:
+        break;
+    }
+    return "";
+}
+
+const char* textoDoRecalculo(engine::Recalculation r)
+{
+    return r == engine::Recalculation::Yes ? "s" : r == engine::Recalculation::No ? "n" : "";
+}
+} // namespace
+
+namespace {
 
 constexpr const char* kUso =
     "uso: pilarix-cli [ARQUIVO] [--set CONTROLE=VALOR]... [--melhor] [--cobrimento 1|2] "
@@ -109,13 +149,13 @@ void report(const Program& p, const RecordingDialogs& d, std::ostream& out)
         << " cm\n";
     out << "Nd = " << f.Text16.Text << " " << f.Combo4.Text << ", Md = " << f.Text17.Text << " " << f.Combo5.Text
         << ", fck = " << f.Text18.Text << " " << f.Combo6.Text << ", " << f.Combo1.Text << "\n";
-    out << "Zona: " << f.Text8.Text << " (" << p.Zona << "), Bx = " << f.Text28.Text
+    out << "Zona: " << f.Text8.Text << " (" << letraDaZona(p.metodo.Zona) << "), Bx = " << f.Text28.Text
         << ", altura da L.N. = " << f.Text29.Text << " cm\n";
     out << "Área de aço (cm2): mínima " << f.Text9.Text << ", teórica " << f.Text10.Text << ", efetiva "
         << f.Text11.Text << "\n";
     out << "Por barra (cm2): mínima " << f.Text12.Text << ", teórica " << f.Text13.Text << ", efetiva "
         << f.Text14.Text << "\n";
-    out << "Bitola: " << Str(p.DiamLong * 10) << " mm; excesso " << f.Text15.Text << "; aço " << f.Text19.Text
+    out << "Bitola: " << Str(p.metodo.DiamLong * 10) << " mm; excesso " << f.Text15.Text << "; aço " << f.Text19.Text
         << " kg\n";
     out << "Estribo: " << f.Text27.Text << "; cobrimento nominal " << f.Text25.Text << " cm, efetivo "
         << f.Text26.Text << " cm\n";
@@ -146,165 +186,164 @@ nlohmann::ordered_json caixasJson(const Program& p)
 nlohmann::ordered_json estadoJson(const Program& p)
 {
     nlohmann::ordered_json j = nlohmann::ordered_json::object();
-#define PILARIX_FIELD(f) j[#f] = p.f
-    PILARIX_FIELD(Base);
-    PILARIX_FIELD(Altura);
-    PILARIX_FIELD(Comprimento);
-    PILARIX_FIELD(nBase);
-    PILARIX_FIELD(nAltura);
-    PILARIX_FIELD(nMaxBase);
-    PILARIX_FIELD(nMaxAltura);
-    PILARIX_FIELD(Nd);
-    PILARIX_FIELD(Md);
-    PILARIX_FIELD(Fck);
-    PILARIX_FIELD(Es);
-    PILARIX_FIELD(GamaC);
-    PILARIX_FIELD(GamaS);
-    PILARIX_FIELD(Precisao);
-    PILARIX_FIELD(DiamAgregado);
-    PILARIX_FIELD(IndiceBitolaMax);
-    PILARIX_FIELD(IndiceEstriboMax);
-    PILARIX_FIELD(Escala);
-    PILARIX_FIELD(ErroEntrada);
-    PILARIX_FIELD(fyk);
-    PILARIX_FIELD(fyd);
-    PILARIX_FIELD(EpYd);
-    PILARIX_FIELD(SigS2);
-    PILARIX_FIELD(fcd);
-    PILARIX_FIELD(SigCd);
-    PILARIX_FIELD(dLinha);
-    PILARIX_FIELD(Delta);
-    PILARIX_FIELD(Ac);
-    PILARIX_FIELD(MenorDim);
-    PILARIX_FIELD(GamaN);
-    PILARIX_FIELD(Ni);
-    PILARIX_FIELD(Mi);
-    PILARIX_FIELD(NBarrasTotal);
-    PILARIX_FIELD(NiCrit);
-    PILARIX_FIELD(NiCrit1);
-    PILARIX_FIELD(NiCrit2);
-    PILARIX_FIELD(MiA);
-    PILARIX_FIELD(MiE);
-    PILARIX_FIELD(MiC);
-    PILARIX_FIELD(MiC1);
-    PILARIX_FIELD(Mi0);
-    PILARIX_FIELD(EtaA);
-    PILARIX_FIELD(EtaE);
-    PILARIX_FIELD(EtaLinA);
-    PILARIX_FIELD(EtaLinE);
-    PILARIX_FIELD(KapaA);
-    PILARIX_FIELD(KapaE);
-    PILARIX_FIELD(LambdaA);
-    PILARIX_FIELD(LambdaE);
-    PILARIX_FIELD(BetaXC1);
-    PILARIX_FIELD(EtaC1);
-    PILARIX_FIELD(KapaC1);
-    PILARIX_FIELD(LambdaC1);
-    PILARIX_FIELD(BetaXC2);
-    PILARIX_FIELD(EtaC2);
-    PILARIX_FIELD(KapaC2);
-    PILARIX_FIELD(LambdaC2);
-    PILARIX_FIELD(Zona);
-    PILARIX_FIELD(NZona);
-    PILARIX_FIELD(BetaX);
-    PILARIX_FIELD(EpsC);
-    PILARIX_FIELD(Teta);
-    PILARIX_FIELD(Eta);
-    PILARIX_FIELD(EtaLin);
-    PILARIX_FIELD(SigMed);
-    PILARIX_FIELD(SigMedY);
-    PILARIX_FIELD(Kapa);
-    PILARIX_FIELD(Lambda);
-    PILARIX_FIELD(MomAco);
-    PILARIX_FIELD(EpsInfIter);
-    PILARIX_FIELD(Rho);
-    PILARIX_FIELD(AsNec);
-    PILARIX_FIELD(AsNecBarra);
-    PILARIX_FIELD(AsBarraD);
-    PILARIX_FIELD(Indice);
-    PILARIX_FIELD(AsBarra);
-    PILARIX_FIELD(AsReal);
-    PILARIX_FIELD(DiamLong);
-    PILARIX_FIELD(PesoLinearLong);
-    PILARIX_FIELD(AsMin);
-    PILARIX_FIELD(AsMinBarra);
-    PILARIX_FIELD(AsMax);
-    PILARIX_FIELD(Excesso);
-    PILARIX_FIELD(DiamEstriboMin);
-    PILARIX_FIELD(IndiceEstriboMin);
-    PILARIX_FIELD(DiamEstribo);
-    PILARIX_FIELD(PesoEstribo);
-    PILARIX_FIELD(EspEstribo);
-    PILARIX_FIELD(ComprGancho);
-    PILARIX_FIELD(ComprGanchoSup);
-    PILARIX_FIELD(DeltaC);
-    PILARIX_FIELD(CobNominal);
-    PILARIX_FIELD(CobEfetivo);
-    PILARIX_FIELD(EspLivreH);
-    PILARIX_FIELD(EspLivreV);
-    PILARIX_FIELD(EspEixoH);
-    PILARIX_FIELD(EspEixoV);
-    PILARIX_FIELD(EspLivreMin);
-    PILARIX_FIELD(EspEixoMax);
-    PILARIX_FIELD(PesoLong);
-    PILARIX_FIELD(NSupH);
-    PILARIX_FIELD(NSupV);
-    PILARIX_FIELD(FlagErro);
-    PILARIX_FIELD(MensagemErro);
-    PILARIX_FIELD(ItemNorma);
-    PILARIX_FIELD(Recalcula);
-    PILARIX_FIELD(NSolucoes);
-    PILARIX_FIELD(SolucaoAtual);
-    PILARIX_FIELD(EpsInf);
-    PILARIX_FIELD(PatamarC);
-    PILARIX_FIELD(EtaLinC1);
-    PILARIX_FIELD(EtaLinC2);
-    PILARIX_FIELD(BetaXA);
-    PILARIX_FIELD(BetaXE);
-    PILARIX_FIELD(Passo);
-    PILARIX_FIELD(Resid);
-    PILARIX_FIELD(ResidAnt);
-    PILARIX_FIELD(ProdResid);
-    PILARIX_FIELD(BetaXIni);
-    PILARIX_FIELD(BetaXMax);
-    PILARIX_FIELD(EpsInfIni);
-    PILARIX_FIELD(EpsInfMax);
-    PILARIX_FIELD(AsNecCopia);
-    PILARIX_FIELD(Delta2);
-    PILARIX_FIELD(DeltaD);
-    PILARIX_FIELD(MeiaAltura);
-    PILARIX_FIELD(MeioD);
-    PILARIX_FIELD(TextoLimite);
-    PILARIX_FIELD(AlturaInterna);
-    PILARIX_FIELD(BaseEstribo);
-    PILARIX_FIELD(AlturaEstribo);
-    PILARIX_FIELD(ComprEstribo);
-    PILARIX_FIELD(EspEstriboEsc);
-    PILARIX_FIELD(DiamEstriboEsc);
-    PILARIX_FIELD(TextoEstribo);
-    PILARIX_FIELD(nMeioH);
-    PILARIX_FIELD(nMeioV);
-#undef PILARIX_FIELD
+    const engine::MethodState& m = p.metodo;
+    j["Base"] = p.Base;
+    j["Altura"] = p.Altura;
+    j["Comprimento"] = p.Comprimento;
+    j["nBase"] = p.nBase;
+    j["nAltura"] = p.nAltura;
+    j["nMaxBase"] = p.nMaxBase;
+    j["nMaxAltura"] = p.nMaxAltura;
+    j["Nd"] = p.Nd;
+    j["Md"] = p.Md;
+    j["Fck"] = p.Fck;
+    j["Es"] = p.Es;
+    j["GamaC"] = p.GamaC;
+    j["GamaS"] = p.GamaS;
+    j["Precisao"] = p.Precisao;
+    j["DiamAgregado"] = p.DiamAgregado;
+    j["IndiceBitolaMax"] = p.IndiceBitolaMax;
+    j["IndiceEstriboMax"] = p.IndiceEstriboMax;
+    j["Escala"] = p.Escala;
+    j["ErroEntrada"] = p.ErroEntrada;
+    j["fyk"] = m.fyk;
+    j["fyd"] = m.fyd;
+    j["EpYd"] = m.EpYd;
+    j["SigS2"] = m.SigS2;
+    j["fcd"] = m.fcd;
+    j["SigCd"] = m.SigCd;
+    j["dLinha"] = m.dLinha;
+    j["Delta"] = m.Delta;
+    j["Ac"] = m.Ac;
+    j["MenorDim"] = m.MenorDim;
+    j["GamaN"] = m.GamaN;
+    j["Ni"] = m.Ni;
+    j["Mi"] = m.Mi;
+    j["NBarrasTotal"] = m.NBarrasTotal;
+    j["NiCrit"] = m.NiCrit;
+    j["NiCrit1"] = m.NiCrit1;
+    j["NiCrit2"] = m.NiCrit2;
+    j["MiA"] = m.MiA;
+    j["MiE"] = m.MiE;
+    j["MiC"] = m.MiC;
+    j["MiC1"] = m.MiC1;
+    j["Mi0"] = m.Mi0;
+    j["EtaA"] = m.EtaA;
+    j["EtaE"] = m.EtaE;
+    j["EtaLinA"] = m.EtaLinA;
+    j["EtaLinE"] = m.EtaLinE;
+    j["KapaA"] = m.KapaA;
+    j["KapaE"] = m.KapaE;
+    j["LambdaA"] = m.LambdaA;
+    j["LambdaE"] = m.LambdaE;
+    j["BetaXC1"] = m.BetaXC1;
+    j["EtaC1"] = m.EtaC1;
+    j["KapaC1"] = m.KapaC1;
+    j["LambdaC1"] = m.LambdaC1;
+    j["BetaXC2"] = m.BetaXC2;
+    j["EtaC2"] = m.EtaC2;
+    j["KapaC2"] = m.KapaC2;
+    j["LambdaC2"] = m.LambdaC2;
+    j["Zona"] = letraDaZona(m.Zona);
+    j["NZona"] = static_cast<std::int16_t>(m.Zona);
+    j["BetaX"] = m.BetaX;
+    j["EpsC"] = m.EpsC;
+    j["Teta"] = m.Teta;
+    j["Eta"] = m.Eta;
+    j["EtaLin"] = m.EtaLin;
+    j["SigMed"] = m.SigMed;
+    j["SigMedY"] = m.SigMedY;
+    j["Kapa"] = m.Kapa;
+    j["Lambda"] = m.Lambda;
+    j["MomAco"] = m.MomAco;
+    j["EpsInfIter"] = m.EpsInfIter;
+    j["Rho"] = m.Rho;
+    j["AsNec"] = m.AsNec;
+    j["AsNecBarra"] = m.AsNecBarra;
+    j["AsBarraD"] = m.AsBarraD;
+    j["Indice"] = m.Indice;
+    j["AsBarra"] = m.AsBarra;
+    j["AsReal"] = m.AsReal;
+    j["DiamLong"] = m.DiamLong;
+    j["PesoLinearLong"] = m.PesoLinearLong;
+    j["AsMin"] = m.AsMin;
+    j["AsMinBarra"] = m.AsMinBarra;
+    j["AsMax"] = m.AsMax;
+    j["Excesso"] = m.Excesso;
+    j["DiamEstriboMin"] = m.DiamEstriboMin;
+    j["IndiceEstriboMin"] = m.IndiceEstriboMin;
+    j["DiamEstribo"] = m.DiamEstribo;
+    j["PesoEstribo"] = m.PesoEstribo;
+    j["EspEstribo"] = m.EspEstribo;
+    j["ComprGancho"] = m.ComprGancho;
+    j["ComprGanchoSup"] = m.ComprGanchoSup;
+    j["DeltaC"] = m.DeltaC;
+    j["CobNominal"] = m.CobNominal;
+    j["CobEfetivo"] = m.CobEfetivo;
+    j["EspLivreH"] = m.EspLivreH;
+    j["EspLivreV"] = m.EspLivreV;
+    j["EspEixoH"] = m.EspEixoH;
+    j["EspEixoV"] = m.EspEixoV;
+    j["EspLivreMin"] = m.EspLivreMin;
+    j["EspEixoMax"] = m.EspEixoMax;
+    j["PesoLong"] = m.PesoLong;
+    j["NSupH"] = m.NSupH;
+    j["NSupV"] = m.NSupV;
+    j["FlagErro"] = textoDoErro(m.FlagErro);
+    j["MensagemErro"] = m.MensagemErro;
+    j["ItemNorma"] = m.ItemNorma;
+    j["Recalcula"] = textoDoRecalculo(m.Recalcula);
+    j["NSolucoes"] = p.NSolucoes;
+    j["SolucaoAtual"] = p.SolucaoAtual;
+    j["EpsInf"] = m.EpsInf;
+    j["PatamarC"] = m.PatamarC;
+    j["EtaLinC1"] = m.EtaLinC1;
+    j["EtaLinC2"] = m.EtaLinC2;
+    j["BetaXA"] = m.BetaXA;
+    j["BetaXE"] = m.BetaXE;
+    j["Passo"] = m.Passo;
+    j["Resid"] = m.Resid;
+    j["ResidAnt"] = m.ResidAnt;
+    j["ProdResid"] = m.ProdResid;
+    j["BetaXIni"] = m.BetaXIni;
+    j["BetaXMax"] = m.BetaXMax;
+    j["EpsInfIni"] = m.EpsInfIni;
+    j["EpsInfMax"] = m.EpsInfMax;
+    j["AsNecCopia"] = m.AsNecCopia;
+    j["Delta2"] = m.Delta2;
+    j["DeltaD"] = m.DeltaD;
+    j["MeiaAltura"] = m.MeiaAltura;
+    j["MeioD"] = m.MeioD;
+    j["TextoLimite"] = m.TextoLimite;
+    j["AlturaInterna"] = m.AlturaInterna;
+    j["BaseEstribo"] = m.BaseEstribo;
+    j["AlturaEstribo"] = m.AlturaEstribo;
+    j["ComprEstribo"] = m.ComprEstribo;
+    j["EspEstriboEsc"] = m.EspEstriboEsc;
+    j["DiamEstriboEsc"] = m.DiamEstriboEsc;
+    j["TextoEstribo"] = m.TextoEstribo;
+    j["nMeioH"] = m.nMeioH;
+    j["nMeioV"] = m.nMeioV;
     // The layer arrays, layer i at element i - 1; the strains and stresses of the
     // last field evaluated, layer i at element i.
     for (const char* name : {"AsCam", "YCam", "YRel", "NBarCam", "Eps", "Sig"})
         j[name] = nlohmann::ordered_json::array();
     for (long i = 0; i < p.nAltura && i < 500; ++i) {
-        j["AsCam"].push_back(p.AsCam(i));
-        j["YCam"].push_back(p.YCam(i));
-        j["YRel"].push_back(p.YRel(i));
-        j["NBarCam"].push_back(p.NBarCam(i));
-        j["Eps"].push_back(p.Eps(i + 1));
-        j["Sig"].push_back(p.Sig(i + 1));
+        j["AsCam"].push_back(m.AsCam(i));
+        j["YCam"].push_back(m.YCam(i));
+        j["YRel"].push_back(m.YRel(i));
+        j["NBarCam"].push_back(m.NBarCam(i));
+        j["Eps"].push_back(m.Eps(i + 1));
+        j["Sig"].push_back(m.Sig(i + 1));
     }
-    auto flags = [](const VbArray<std::string, 1, 500>& a, double n) {
+    auto flags = [](const VbArray<engine::TieFlag, 1, 500>& a, double n) {
         nlohmann::ordered_json arr = nlohmann::ordered_json::array();
         for (long i = 1; i <= n && i <= 500; ++i)
-            arr.push_back(a(i));
+            arr.push_back(a(i) == engine::TieFlag::Tie ? "s" : a(i) == engine::TieFlag::NoTie ? "n" : "");
         return arr;
     };
-    j["SupH"] = flags(p.SupH, p.nBase);
-    j["SupV"] = flags(p.SupV, p.nAltura);
+    j["SupH"] = flags(m.SupH, p.nBase);
+    j["SupV"] = flags(m.SupV, p.nAltura);
     return j;
 }
 

@@ -3,7 +3,7 @@
 // tests and comparisons. It drives the same Program through the same form model.
 
 #include "cli/recording_dialogs.h"
-#include "driver/program.h"
+#include "window/program.h"
 
 #include <nlohmann/json.hpp>
 

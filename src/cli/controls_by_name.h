@@ -2,7 +2,7 @@
 // The controls of the main window and of "Outros valores" by the names the program
 // gives them ("Text1", "Combo4", "Option7(1)", "Form8.Text1"), for the command line.
 
-#include "driver/program.h"
+#include "window/program.h"
 
 #include <string>
 #include <utility>

@@ -3,7 +3,7 @@
 // the command line, and every dialog is kept, in order, with what it showed and
 // the answer it got.
 
-#include "state/dialog_port.h"
+#include "window/dialog_port.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,7 +1,7 @@
 // Project files and the default-values file "Padrão.txt": the whole input of the
 // main window and the four settings of "Outros valores", one record a line.
 
-#include "driver/program.h"
+#include "window/program.h"
 
 #include "files/field_reader.h"
 
@@ -312,8 +312,8 @@ std::string validaCampos(const std::vector<std::string>& campos, const std::stri
 
 void mostraErroDeArquivo(Program& p)
 {
-    p.MensagemErro = p.ErroArquivo;
-    p.ItemNorma.clear();
+    p.metodo.MensagemErro = p.ErroArquivo;
+    p.metodo.ItemNorma.clear();
     p.MostraErro();
 }
 

@@ -3,7 +3,7 @@
 // it d') and the calculation runs again; "&2 - Ignorar" keeps the arrangement and
 // the calculation ends marked as failed.
 
-#include "state/forms.h"
+#include "window/forms.h"
 
 #include <QDialog>
 

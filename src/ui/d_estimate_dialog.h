@@ -3,7 +3,7 @@
 // distance from the face to the centre of the corner bar, written into the main
 // window's d' box on request.
 
-#include "state/forms.h"
+#include "window/forms.h"
 
 #include <QDialog>
 

@@ -2,7 +2,7 @@
 // "Mensagem de erro": the message above, the clause of the standard below, and
 // "Continuar".
 
-#include "state/forms.h"
+#include "window/forms.h"
 
 #include <QDialog>
 

@@ -1,5 +1,6 @@
 #include "ui/main_window.h"
 
+#include "base/number_text.h"
 #include "ui/about_dialog.h"
 #include "ui/d_estimate_dialog.h"
 #include "ui/other_values_dialog.h"
@@ -642,7 +643,7 @@ void MainWindow::atualiza()
         b->setEnabled(m->Enabled);
         b->setVisible(m->Visible);
     }
-    desenho_->mostra(f.Picture, f.CotasVisiveis, f.Image1Visible);
+    desenho_->mostra(program_->Desenho, program_->Escala, f.CotasVisiveis, f.Image1Visible);
 }
 
 void MainWindow::executa(const std::function<void()>& handler)

@@ -4,7 +4,7 @@
 // after it, every widget is refreshed from the model (texts, colours, visibility,
 // the drawing). The calculation itself never sees a widget.
 
-#include "driver/program.h"
+#include "window/program.h"
 #include "ui/key_filters.h"
 
 #include <QMainWindow>

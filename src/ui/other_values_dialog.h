@@ -2,7 +2,7 @@
 // "Outros valores": precision of the iterative solutions, the largest aggregate and
 // the largest bar and stirrup diameters the bar choice may use.
 
-#include "state/forms.h"
+#include "window/forms.h"
 
 #include <QDialog>
 

@@ -3,7 +3,7 @@
 // real modal dialog over the main window, and the bar list's beep is the system
 // beep.
 
-#include "state/dialog_port.h"
+#include "window/dialog_port.h"
 
 #include <QPointer>
 #include <QString>

@@ -8,12 +8,11 @@
 namespace pilarix::ui {
 
 namespace {
-QColor cor(const Color& c)
-{
-    if (c.system >= 0)
-        return QColor(96, 96, 96);
-    return QColor(c.r, c.g, c.b);
-}
+// The section's corner sits this far inside the frame.
+constexpr double kMargem = 20;
+const QColor kConcreto(0, 0, 0);
+const QColor kAco(160, 0, 0); // stirrups and ties, as on a coloured detail
+const QColor kCota(70, 70, 70);
 } // namespace
 
 SectionView::SectionView(QWidget* parent) : QWidget(parent)
@@ -27,9 +26,11 @@ SectionView::SectionView(QWidget* parent) : QWidget(parent)
     setFont(f);
 }
 
-void SectionView::mostra(const Drawing& desenho, bool cotasVisiveis, bool imagemInicial)
+void SectionView::mostra(const std::optional<engine::SectionGeometry>& desenho, double escala, bool cotasVisiveis,
+                         bool imagemInicial)
 {
     desenho_ = desenho;
+    escala_ = escala > 0 ? escala : 5;
     cotas_ = cotasVisiveis;
     inicial_ = imagemInicial;
     updateGeometry();
@@ -38,28 +39,25 @@ void SectionView::mostra(const Drawing& desenho, bool cotasVisiveis, bool imagem
     update();
 }
 
+// Centimetres of the section to pixels: the top-left corner of the concrete at the
+// margin, y downwards.
+QPointF SectionView::ponto(const engine::Point& p) const
+{
+    const double h = desenho_ ? desenho_->depth : 0;
+    return {kMargem + p.x * escala_, kMargem + (h - p.y) * escala_};
+}
+
 QRectF SectionView::limites() const
 {
-    QRectF r;
+    if (!desenho_)
+        return {};
+    const auto& g = *desenho_;
+    QRectF r(ponto({0, g.depth}), ponto({g.width, 0}));
     const QFontMetricsF fm(font());
-    for (const auto& it : desenho_.items) {
-        QRectF b;
-        switch (it.kind) {
-        case DrawItem::Kind::Line:
-            b = QRectF(QPointF(it.x1, it.y1), QPointF(it.x2, it.y2)).normalized().adjusted(-1, -1, 1, 1);
-            break;
-        case DrawItem::Kind::Circle:
-        case DrawItem::Kind::FilledCircle:
-            b = QRectF(it.x1 - it.radius, it.y1 - it.radius, 2 * it.radius, 2 * it.radius);
-            break;
-        case DrawItem::Kind::Text:
-            if (!cotas_)
-                continue;
-            b = QRectF(QPointF(it.x1, it.y1), fm.size(0, QString::fromStdString(it.text)));
-            break;
-        }
-        r = r.isNull() ? b : r.united(b);
-    }
+    // Room for the dimensions and the labels below and to the right.
+    r.adjust(0, 0, 40 + fm.horizontalAdvance(QStringLiteral("000")), 30 + 4 * fm.height());
+    for (const auto& l : g.labels)
+        r = r.united(QRectF(QPointF(kMargem, r.top()), QSizeF(fm.horizontalAdvance(QString::fromStdString(l.text)), 1)));
     return r;
 }
 
@@ -100,37 +98,61 @@ void SectionView::paintEvent(QPaintEvent*)
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing, true);
     p.setRenderHint(QPainter::TextAntialiasing, true);
-    if (inicial_) {
-        pintaImagemInicial(p);
+    if (inicial_ || !desenho_) {
+        if (inicial_)
+            pintaImagemInicial(p);
         return;
     }
+    const auto& g = *desenho_;
+    auto linha = [&](const engine::Polyline& l, const QColor& c) {
+        p.setPen(QPen(c, 1.0, Qt::SolidLine, Qt::RoundCap));
+        QPolygonF poly;
+        for (const auto& pt : l.points)
+            poly << ponto(pt);
+        if (l.closed)
+            p.drawPolygon(poly);
+        else
+            p.drawPolyline(poly);
+    };
+    p.setBrush(Qt::NoBrush);
+    linha(g.outline, kConcreto);
+    linha(g.stirrupOuter, kAco);
+    linha(g.stirrupInner, kAco);
+    for (const auto& h : g.stirrupHooks)
+        linha(h, kAco);
+    for (const auto& t : g.ties)
+        linha(t, kAco);
+    p.setPen(QPen(kConcreto, 0.8));
+    p.setBrush(kConcreto);
+    for (const auto& b : g.bars)
+        p.drawEllipse(ponto(b.centre), b.diameter / 2 * escala_, b.diameter / 2 * escala_);
+    if (!cotas_)
+        return;
+
+    // Overall dimensions with their ticks, the labels under the section.
     const QFontMetricsF fm(font());
-    // Whole drawing units fall on pixel centres: straight lines stay sharp.
-    p.translate(0.5, 0.5);
-    for (const auto& it : desenho_.items) {
-        const QColor c = cor(it.color);
-        switch (it.kind) {
-        case DrawItem::Kind::Line:
-            p.setPen(QPen(c, 1.0, Qt::SolidLine, Qt::RoundCap));
-            p.drawLine(QPointF(it.x1, it.y1), QPointF(it.x2, it.y2));
-            break;
-        case DrawItem::Kind::Circle:
-            p.setPen(QPen(c, 1.2));
-            p.setBrush(Qt::NoBrush);
-            p.drawEllipse(QPointF(it.x1, it.y1), it.radius, it.radius);
-            break;
-        case DrawItem::Kind::FilledCircle:
-            p.setPen(QPen(c, 0.8));
-            p.setBrush(c);
-            p.drawEllipse(QPointF(it.x1, it.y1), it.radius, it.radius);
-            break;
-        case DrawItem::Kind::Text:
-            if (!cotas_)
-                break;
-            p.setPen(c);
-            p.drawText(QPointF(it.x1, it.y1 + fm.ascent()), QString::fromStdString(it.text));
-            break;
-        }
+    p.setBrush(Qt::NoBrush);
+    const QPointF canto = ponto({0, 0});
+    const QPointF oposto = ponto({g.width, g.depth});
+    const double abaixo = canto.y() + 18, direita = oposto.x() + 18;
+    p.setPen(QPen(kCota, 1.0));
+    p.drawLine(QPointF(canto.x(), abaixo), QPointF(oposto.x(), abaixo));
+    p.drawLine(QPointF(direita, oposto.y()), QPointF(direita, canto.y()));
+    for (double x : {canto.x(), oposto.x()})
+        p.drawLine(QPointF(x - 4, abaixo + 4), QPointF(x + 4, abaixo - 4));
+    for (double y : {oposto.y(), canto.y()})
+        p.drawLine(QPointF(direita - 4, y + 4), QPointF(direita + 4, y - 4));
+    if (g.dimensions.size() == 2) {
+        const QString b = QString::fromStdString(g.dimensions[0].text);
+        const QString h = QString::fromStdString(g.dimensions[1].text);
+        p.drawText(QPointF((canto.x() + oposto.x()) / 2 - fm.horizontalAdvance(b) / 2, abaixo + 2 + fm.ascent()), b);
+        p.drawText(QPointF(direita + 5, (canto.y() + oposto.y()) / 2 + fm.ascent() / 2), h);
+    }
+    p.setPen(kConcreto);
+    double y = abaixo + 6 + fm.height() + fm.ascent();
+    for (const auto& l : g.labels) {
+        p.drawText(QPointF(canto.x(), y), QString::fromStdString(l.text));
+        y += fm.height();
     }
 }
 

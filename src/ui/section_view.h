@@ -1,11 +1,13 @@
 #pragma once
-// The drawing surface of the main window: paints the picture of the section that
-// the calculation left in the form model, one drawing unit to one pixel, on white
-// like the drawing sheet it stands for.
+// The drawing surface of the main window: paints the detailed section that the
+// calculation left, at the scale of the "Escala" box (pixels per cm), on white like
+// the drawing sheet it stands for.
 
-#include "state/drawing.h"
+#include "engine/geometry.h"
 
 #include <QWidget>
+
+#include <optional>
 
 namespace pilarix::ui {
 
@@ -16,9 +18,10 @@ public:
 
     // The picture, whether its dimension labels show, and whether the picture
     // shown before any result stands in its place.
-    void mostra(const Drawing& desenho, bool cotasVisiveis, bool imagemInicial);
+    void mostra(const std::optional<engine::SectionGeometry>& desenho, double escala, bool cotasVisiveis,
+                bool imagemInicial);
 
-    const Drawing& desenho() const { return desenho_; }
+    const std::optional<engine::SectionGeometry>& desenho() const { return desenho_; }
     bool cotasVisiveis() const { return cotas_; }
     bool imagemInicial() const { return inicial_; }
 
@@ -32,7 +35,10 @@ private:
     QRectF limites() const;
     void pintaImagemInicial(class QPainter& p) const;
 
-    Drawing desenho_;
+    QPointF ponto(const engine::Point& p) const;
+
+    std::optional<engine::SectionGeometry> desenho_;
+    double escala_ = 5;
     bool cotas_ = false;
     bool inicial_ = true;
 };

@@ -2,7 +2,7 @@
 // "Soluções": the stored arrangements, lightest first. Choosing a row puts that
 // arrangement into the main window and recalculates it there.
 
-#include "state/forms.h"
+#include "window/forms.h"
 
 #include <QDialog>
 

@@ -2,7 +2,7 @@
 // "Escolha dos estribos": the stirrup the standard asks for, and the smaller ones
 // allowed when stirrups and bars are of the same steel; the user picks one.
 
-#include "state/forms.h"
+#include "window/forms.h"
 
 #include <QDialog>
 

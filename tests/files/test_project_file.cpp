@@ -2,7 +2,7 @@
 // that cannot be read, which must leave the window as it was.
 
 #include "cli/recording_dialogs.h"
-#include "driver/program.h"
+#include "window/program.h"
 
 #include <gtest/gtest.h>
 

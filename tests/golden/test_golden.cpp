@@ -47,6 +47,8 @@ TEST_P(Golden, EveryLineShowsWhatItShowedBefore)
             continue;
         const std::string shown = pilarix::golden::runLine(line);
         const std::string got = pilarix::golden::digest(shown);
+        if (const char* dump = std::getenv("PILARIX_GOLDEN_DUMP"))
+            std::ofstream(std::string(dump) + "/" + std::to_string(i + 1) + ".txt") << shown;
         ++checked;
         if (write) {
             lines[i] = std::string(1, line.kind) + "\t" + got + "\t" + line.payload;

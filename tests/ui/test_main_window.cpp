@@ -149,7 +149,7 @@ TEST(UiCalcula, AnInputErrorEmptiesTheResultsAndPaintsErrosRed)
                              "Text27", "Text28", "Text29"})
         EXPECT_EQ(j.texto(nome), "") << nome;
     EXPECT_EQ(j.texto("Text18"), "0") << "the user's input is kept";
-    EXPECT_TRUE(j.w.desenho()->desenho().empty());
+    EXPECT_FALSE(j.w.desenho()->desenho().has_value());
 }
 
 TEST(UiCalcula, StepButtonsChangeTheirBoxAndRecalculate)
@@ -273,7 +273,7 @@ TEST(UiDialogosReais, StirrupChoiceDialogDecidesTheStirrup)
         ASSERT_EQ(opcoes.size(), 4u) << "three diameters and the least steel";
         EXPECT_EQ(opcoes[0], "fi de 0.8mm a cada 20cm. (independe do tipo de aço do estribo).");
         EXPECT_EQ(opcoes[3], "Utilizar a solução que proporcione menos quantidade de aço por metro");
-        EXPECT_DOUBLE_EQ(w.program().DiamEstribo, r.diametro) << r.opcao;
+        EXPECT_DOUBLE_EQ(w.program().metodo.DiamEstribo, r.diametro) << r.opcao;
         EXPECT_EQ(w.findChild<QLineEdit*>(QStringLiteral("Text27"))->text().toStdString(), r.texto27) << r.opcao;
     }
 }

@@ -1,0 +1,168 @@
+#include "engine/checks.h"
+
+#include "base/number_text.h"
+
+namespace pilarix::engine {
+
+namespace {
+constexpr std::string_view kItemFck = "Item 8.2.1 do Projeto de revisão da NB1 / 2001";
+constexpr std::string_view kItemWall = "Item 18.4.1 do Projeto de revisão da NB1 / 2001";
+constexpr std::string_view kItemBarDiameter = "Item 18.4.2.1 do Projeto de revisão da NB1 / 2001";
+constexpr std::string_view kItemMaximumRatio = "Item 17.3.4.3.2 do Projeto de revisão da NB1 / 2001";
+constexpr std::string_view kItemStirrup = "Item 18.4.3";
+constexpr std::string_view kItemSpacing = "Item 18.4.2.2 do Projeto de revisão da NB1 / 2001";
+constexpr std::string_view kItemAggregate = "Item 7.4.7.6 do Projeto de revisão da NB1 / 2001";
+constexpr std::string_view kItemCover = "Item 7.4.7 ";
+constexpr std::string_view kItemBarCover = "Item 7.4.7.5";
+
+Check make(CheckId id, std::string text) { return {id, std::move(text), clauseOf(id), true}; }
+} // namespace
+
+std::string_view clauseOf(CheckId id)
+{
+    switch (id) {
+    case CheckId::FckBelowMinimum:
+    case CheckId::FckAboveMaximum:
+        return kItemFck;
+    case CheckId::WallColumn:
+        return kItemWall;
+    case CheckId::BarAboveEighthOfSide:
+        return kItemBarDiameter;
+    case CheckId::MaximumRatio:
+        return kItemMaximumRatio;
+    case CheckId::PredefinedStirrupTooThin:
+        return kItemStirrup;
+    case CheckId::FreeSpacingWidth:
+    case CheckId::FreeSpacingDepth:
+    case CheckId::AxisSpacingWidth:
+    case CheckId::AxisSpacingDepth:
+        return kItemSpacing;
+    case CheckId::CoverAggregate:
+        return kItemAggregate;
+    case CheckId::CoverBelowNominal:
+        return kItemCover;
+    case CheckId::CoverBelowBarDiameter:
+        return kItemBarCover;
+    case CheckId::FckZero:
+    case CheckId::EsZero:
+    case CheckId::GammaCZero:
+    case CheckId::GammaSZero:
+    case CheckId::BarBelowRequired:
+    case CheckId::MinimumRatioNeedsLargerBar:
+        return {};
+    }
+    return {};
+}
+
+namespace checks {
+
+Check fckZero() { return make(CheckId::FckZero, "Fck deve ser diferente de zero"); }
+
+// 1 MPa is exactly 10 kgf/cm² throughout the program.
+Check fckBelowMinimum(double fck)
+{
+    return make(CheckId::FckBelowMinimum, "Fck = " + Str(fck / 10) + " , inferior a 20 Mpa (valor mínimo para pilares).");
+}
+
+Check fckAboveMaximum(double fck)
+{
+    return make(CheckId::FckAboveMaximum,
+                "Fck = " + Str(fck / 10) + " , maior que 50 Mpa (valor máximo abrangido pela norma).");
+}
+
+Check esZero() { return make(CheckId::EsZero, "Es deve ser diferente de zero"); }
+
+Check gammaCZero()
+{
+    return make(CheckId::GammaCZero, "GamaC (coeficiente de minoração do concreto) deve ser diferente de zero");
+}
+
+Check gammaSZero()
+{
+    return make(CheckId::GammaSZero, "GamaS (coeficiente de minoração do aço) deve ser diferente de zero");
+}
+
+// The number after the second text is five times the smaller side, the limit.
+Check wallColumn(double largerSide, double smallerSide)
+{
+    return make(CheckId::WallColumn, "Maior dimensão da seção transversal = " + Str(largerSide)
+                                         + "cm, excedeu 5 vezes a menor dimensão = " + Str(5 * smallerSide)
+                                         + ". O pilar deve ser tratado como pilar parede.");
+}
+
+Check barBelowRequired()
+{
+    return make(CheckId::BarBelowRequired,
+                "Diâmetro das barras longitudinais devem ser superiores à maior bitola definida pelo usuário.");
+}
+
+Check barAboveEighthOfSide(double barDiameter, double smallerSide)
+{
+    return make(CheckId::BarAboveEighthOfSide,
+                "Diâmetro da barra longitudinal excede o máximo permitido = 1/8 da menor dimensão. No caso "
+                    + Str(barDiameter) + "cm > " + Str(smallerSide / 8) + "cm");
+}
+
+Check maximumRatio(double asReal, double asMax)
+{
+    return make(CheckId::MaximumRatio,
+                "A taxa de armadura excede o máximo permitido = 8,0%Ac em reigião de emendas. No caso temos "
+                    + Format(asReal, "##0.00") + "cm2 que é maior que " + Format(asMax, "##0.00")
+                    + "cm2 correspondente a 4%Ac fora da região de emendas");
+}
+
+Check minimumRatioNeedsLargerBar()
+{
+    Check c = make(CheckId::MinimumRatioNeedsLargerBar,
+                   "Taxa de armadura mínima exige barras aço com bitola maior do que o existente");
+    c.namesClause = false;
+    return c;
+}
+
+Check predefinedStirrupTooThin(double minimumDiameter)
+{
+    return make(CheckId::PredefinedStirrupTooThin,
+                "O estribo pré-definido possue diâmetro inferior ao permitido pela norma. Será usado o valor mínimo "
+                "permitido que é de "
+                    + Str(10 * minimumDiameter) + "mm.");
+}
+
+Check freeSpacing(bool widthFaces, double spacing, std::string_view limit, double minimum)
+{
+    return make(widthFaces ? CheckId::FreeSpacingWidth : CheckId::FreeSpacingDepth,
+                std::string(widthFaces ? "Espaçamento livre entre barras horizontais = "
+                                       : "Espaçamento livre entre barras verticais = ")
+                    + Str(r2(spacing)) + "cm menor que " + std::string(limit) + " = " + Str(r2(minimum)) + "cm");
+}
+
+Check axisSpacing(bool widthFaces, double spacing, std::string_view limit, double maximum)
+{
+    return make(widthFaces ? CheckId::AxisSpacingWidth : CheckId::AxisSpacingDepth,
+                std::string(widthFaces ? "Espaçamento entre eixos das barras horizontais = "
+                                       : "Espaçamento entre eixos das barras verticais = ")
+                    + Str(r2(spacing)) + "cm maior que " + std::string(limit) + " = " + Str(r2(maximum)) + "cm");
+}
+
+Check coverAggregate(double nominalCover, double aggregate)
+{
+    return make(CheckId::CoverAggregate, "Cobrimento nominal = " + Str(nominalCover) + " cm, < "
+                                             + Str(r2(aggregate / 1.2))
+                                             + " cm (dimensão máxima do argagado graúdo / 1.2)");
+}
+
+Check coverBelowNominal(double effectiveCover, double nominalCover)
+{
+    return make(CheckId::CoverBelowNominal, "Cobrimento efetivo = " + Str(effectiveCover)
+                                                + " cm menor que o combrimento nominal = " + Str(nominalCover) + " cm.");
+}
+
+Check coverBelowBarDiameter(double barCover, double barDiameter)
+{
+    return make(CheckId::CoverBelowBarDiameter, "Cobrimento mínimo das barras longitudinais = " + Str(barCover)
+                                                    + " cm menor que o mínimo = " + Str(barDiameter)
+                                                    + " cm (diâmetro da barra logitudinal)");
+}
+
+} // namespace checks
+
+} // namespace pilarix::engine

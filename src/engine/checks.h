@@ -1,0 +1,90 @@
+#pragma once
+// Every message the calculation gives, with the clause of NBR 6118 (2001 revision
+// project) it rests on: the texts stand here and only here.
+//
+//   Check             one failed rule: what (id), the message with its numbers, the clause
+//   clauseOf(id)      the clause of a rule ("" where the message names none)
+//   the functions below compose each message from its numbers, as the program words it.
+
+#include <string>
+#include <string_view>
+
+namespace pilarix::engine {
+
+enum class CheckId {
+    // input
+    FckZero,
+    FckBelowMinimum,
+    FckAboveMaximum,
+    EsZero,
+    GammaCZero,
+    GammaSZero,
+    // section
+    WallColumn,
+    // longitudinal bars
+    BarBelowRequired,
+    BarAboveEighthOfSide,
+    MaximumRatio,
+    MinimumRatioNeedsLargerBar,
+    // stirrups
+    PredefinedStirrupTooThin,
+    // spacing
+    FreeSpacingWidth,
+    FreeSpacingDepth,
+    AxisSpacingWidth,
+    AxisSpacingDepth,
+    // cover (questions)
+    CoverAggregate,
+    CoverBelowNominal,
+    CoverBelowBarDiameter,
+};
+
+struct Check {
+    CheckId id;
+    std::string text;
+    std::string_view clause;
+    // False for the one message that names no clause of its own: the dialog keeps
+    // showing the clause of the message before it.
+    bool namesClause = true;
+};
+
+std::string_view clauseOf(CheckId id);
+
+namespace checks {
+Check fckZero();
+Check fckBelowMinimum(double fck);  // fck in kgf/cm²; the message says MPa
+Check fckAboveMaximum(double fck);
+Check esZero();
+Check gammaCZero();
+Check gammaSZero();
+Check wallColumn(double largerSide, double smallerSide);
+Check barBelowRequired();
+Check barAboveEighthOfSide(double barDiameter, double smallerSide);
+Check maximumRatio(double asReal, double asMax);
+Check minimumRatioNeedsLargerBar();
+Check predefinedStirrupTooThin(double minimumDiameter);
+// `limit` is the text naming the governing limit (see the limit texts below).
+Check freeSpacing(bool widthFaces, double spacing, std::string_view limit, double minimum);
+Check axisSpacing(bool widthFaces, double spacing, std::string_view limit, double maximum);
+Check coverAggregate(double nominalCover, double aggregate);
+Check coverBelowNominal(double effectiveCover, double nominalCover);
+Check coverBelowBarDiameter(double barCover, double barDiameter);
+} // namespace checks
+
+// The limits that spacing messages name.
+namespace limits {
+inline constexpr std::string_view kFreeByAggregate = " 2,4 vezes o diâmetro máximo do agragado, fora das emendas";
+inline constexpr std::string_view kFreeByBar = " 4 vezes o diâmetro da barra longitudinal";
+inline constexpr std::string_view kAxisBySide = " 2 vezes a menor dimensão do trecho considerado";
+inline constexpr std::string_view kAxisAbsolute = "máximo permitido";
+} // namespace limits
+
+// The captions of the first button of the cover question.
+inline constexpr std::string_view kUseMinimumCover = "&1 - Utilizar cobrimento mínimo";
+inline constexpr std::string_view kRoundNominalCover = "&1 - Calcular cobrimento nominal múltiplo de 0,5";
+
+// The notice of a search that found no arrangement.
+inline constexpr std::string_view kNoArrangement =
+    "Nenhum arranjo de armaduras pode ser usado para os esforços plicados";
+
+} // namespace pilarix::engine

@@ -1,0 +1,641 @@
+// The passes of a whole calculation: the design of the section, then the bar, the
+// stirrup and the cover; where a cover correction moves d' the pass runs again from
+// the design; then the steel limits, the spacing, the supplementary stirrups, the
+// weight and the drawing. Every stage keeps the name the method gives it, for the
+// messages of a calculation that cannot go on.
+
+#include "engine/column.h"
+
+#include "engine/bar_choice.h"
+#include "engine/catalogue.h"
+#include "engine/cover.h"
+#include "engine/failure.h"
+#include "engine/spacing.h"
+#include "engine/steel_limits.h"
+#include "engine/stirrups.h"
+#include "engine/supplementary_stirrups.h"
+#include "engine/zone_method.h"
+
+#include "base/calc_error.h"
+#include "base/number_text.h"
+
+#include <string>
+
+namespace pilarix::engine {
+
+std::string dLinhaText(double d)
+{
+    const double f = d - Int(d);
+    return Str(Int(d)) + "." + Str(Int(f * 100000 * 10000 + 0.5) / 10000);
+}
+
+bool ColumnResult::ok() const { return !failure && detailed && flag == ErrorFlag::None; }
+
+namespace {
+
+// One calculation: the input, the method's variables, the questions, and what the
+// passes have found so far.
+class Passes {
+public:
+    Passes(const ColumnInput& in, MethodState& s, Memory& memory, Questions* questions,
+           const CandidateStirrup* candidate)
+        : in_(in), s(s), memory_(memory), questions_(questions), candidate_(candidate),
+          method_(s, steel_, in.precision, in.barsOnDepthFace, summary_)
+    {
+        summary_ = {in.base, in.depth, in.barsOnWidthFace, static_cast<double>(in.barsOnDepthFace), 0,
+                    in.Nd,   in.Md,    in.fck,             in.precision};
+    }
+
+    void run(ColumnResult& r);
+
+private:
+    bool silent() const { return candidate_ != nullptr; }
+    void check(const char* stage)
+    {
+        summary_.dLinha = s.dLinha;
+        checkFloatingPoint(stage, summary_);
+    }
+    void fail(ColumnResult& r, Check c);
+    bool designPass(ColumnResult& r);
+    void chooseBar(ColumnResult& r);
+    void chooseStirrup(ColumnResult& r);
+    void chooseStirrupByMode(ColumnResult& r);
+    void checkCandidateStirrup();
+    void checkCover(ColumnResult& r);
+    void ask(ColumnResult& r, CoverRule rule, Check c, std::optional<std::string_view> caption);
+    void correctCoverToNominal(ColumnResult& r);
+    void correctCoverToBar(ColumnResult& r);
+    void limitSteel(ColumnResult& r);
+    void checkSpacing(ColumnResult& r);
+    void markTies();
+    void finish(ColumnResult& r);
+
+    const ColumnInput& in_;
+    MethodState& s;
+    Memory& memory_;
+    Questions* questions_;
+    const CandidateStirrup* candidate_;
+    Steel steel_;
+    ColumnSummary summary_;
+    detail::ZoneMethod method_;
+    std::optional<std::string> typedText_; // d' as a correction rewrote it
+    bool barTooSmall_ = false;
+    StirrupRules rules_;
+};
+
+// A failed check of the window: the error state takes it and the front is told.
+// The silent pass of the search only marks the calculation as failed.
+void Passes::fail(ColumnResult& r, Check c)
+{
+    s.FlagErro = ErrorFlag::Failed;
+    if (silent())
+        return;
+    s.MensagemErro = c.text;
+    if (c.namesClause)
+        s.ItemNorma = std::string(c.clause);
+    r.checks.push_back(c);
+    questions_->tell(r.checks.back());
+}
+
+bool Passes::designPass(ColumnResult& r)
+{
+    // d': typed, read back from the text a correction wrote; or found from the cover,
+    // starting at 3 cm and kept as the correction set it on a repeated pass.
+    if (in_.dLinha.automatic) {
+        if (s.Recalcula == Recalculation::No)
+            s.dLinha = 3.0;
+    } else {
+        s.dLinha = typedText_ ? Val(*typedText_) : in_.dLinha.typed;
+    }
+    check("dLinha01");
+
+    s.fcd = in_.fck / in_.gammaC;
+    s.SigCd = 0.85 * s.fcd;
+    s.Ac = in_.depth * in_.base;
+    s.MeiaAltura = in_.depth / 2;
+    s.MeioD = 0.5;
+    check("Programa0 (fcd, σcd)");
+
+    steel_ = designSteel(in_.steel, in_.gammaS, in_.Es);
+    s.fyk = steel_.fyk;
+    s.fyd = steel_.fyd;
+    s.EpYd = steel_.epsYd;
+    // The steel law is probed at 2 per mille in the layer arrays, at the shared counter.
+    s.Eps(s.Indice) = 2;
+    s.Sig(s.Indice) = steelStress(steel_, 2);
+    s.SigS2 = s.Sig(s.Indice);
+    check("Aço04");
+
+    s.Delta = s.Delta2 = s.DeltaD = s.dLinha / in_.depth;
+    check("Programa0 (δ)");
+
+    // The bar layers: one per bar of a depth face, the two outer ones holding a whole
+    // width face, the inner ones one bar on each depth face; layer 1 the farthest
+    // from the compressed face (depth h − d'), the last the nearest (depth d').
+    const double nb = in_.barsOnWidthFace;
+    const int na = in_.barsOnDepthFace;
+    s.NBarrasTotal = CInt16(2 * (nb + na) - 4, "número total de barras");
+    for (s.Indice = 1; s.Indice <= na; ++s.Indice)
+        s.NBarCam(s.Indice - 1) = (s.Indice == 1 || s.Indice == na) ? nb : 2;
+    for (s.Indice = 1; s.Indice <= na; ++s.Indice) {
+        s.YCam(s.Indice - 1) = (in_.depth - s.dLinha) - (s.Indice - 1) * (in_.depth - 2 * s.dLinha) / (na - 1);
+        s.YRel(s.Indice - 1) = s.YCam(s.Indice - 1) / in_.depth;
+    }
+    check("SArran1R03");
+
+    const ColumnClass column = classifyColumn(in_.base, in_.depth);
+    s.MenorDim = column.smallerSide;
+    if (column.wall) {
+        s.FlagErro = ErrorFlag::Wall;
+        const Check c = checks::wallColumn(column.largerSide, column.smallerSide);
+        s.MensagemErro = c.text;
+        s.ItemNorma = std::string(c.clause);
+        r.checks.push_back(c);
+        if (!silent())
+            questions_->tell(r.checks.back());
+    }
+    s.GamaN = column.gammaN;
+    check("CeoficienteAdic25");
+    if (s.FlagErro == ErrorFlag::Wall)
+        return false;
+
+    s.Ni = (in_.Nd * s.GamaN) / (s.Ac * s.SigCd);
+    s.Mi = (in_.Md * s.GamaN) / (in_.depth * (s.Ac * s.SigCd));
+    check("Programa0 (ν, μ)");
+    method_.criticalForces();
+    check("SNiCrit06");
+    method_.referenceFields();
+    check("SConstZ10");
+    method_.zoneBoundMoments();
+    check("SMiACEC13");
+    method_.concreteOnlyMoment();
+    check("SMiZero14");
+    method_.classifyZone();
+    check("Szona15");
+    if (s.Ni == 0 && s.Mi == 0) {
+        s.Rho = 0;
+    } else {
+        method_.reinforcementRatio();
+        check("SRO16");
+    }
+
+    s.AsNec = s.Ac * s.Rho;
+    s.AsNecCopia = s.AsNec;
+    s.AsBarraD = s.AsNec / s.NBarrasTotal;
+    s.AsNecBarra = s.AsNec / s.NBarrasTotal;
+    for (long i = 1; i <= na; ++i)
+        s.AsCam(i - 1) = s.AsNecBarra * s.NBarCam(i - 1);
+    check("Programa0 (área por barra)");
+    r.designed = true;
+    return true;
+}
+
+// The thinnest allowed bar for the area required per bar, then the 1/8 rule.
+void Passes::chooseBar(ColumnResult& r)
+{
+    const auto bar = smallestBar(s.AsNecBarra, s.NBarrasTotal, in_.maxBarIndex);
+    if (!bar) {
+        s.AsBarra = 0;
+        s.AsReal = 0;
+        barTooSmall_ = true;
+        fail(r, checks::barBelowRequired());
+        check("AsReal23");
+        return;
+    }
+    r.bar = bar;
+    s.Indice = bar->index;
+    s.AsBarra = bar->barArea;
+    s.AsReal = bar->providedArea;
+    s.DiamLong = bar->diameter;
+    s.PesoLinearLong = bar->massPerMetre;
+    if (exceedsEighthOfSide(s.DiamLong, s.MenorDim))
+        fail(r, silent() ? Check{CheckId::BarAboveEighthOfSide, {}, {}, true}
+                         : checks::barAboveEighthOfSide(s.DiamLong, s.MenorDim));
+    check("AsReal23");
+}
+
+void Passes::chooseStirrup(ColumnResult& r)
+{
+    rules_ = stirrupRules(s.DiamLong, s.MenorDim, in_.steel);
+    s.DiamEstriboMin = rules_.minimumDiameter;
+    s.IndiceEstriboMin = rules_.minimumIndex;
+    s.Indice = rules_.minimumIndex;
+    const Bar& minimum = bar(rules_.minimumIndex);
+    s.DiamEstribo = minimum.diameter;
+    s.PesoEstribo = minimum.mass;
+    s.EspEstribo = rules_.spacing;
+    s.EspEstriboEsc = s.EspEstribo;
+    chooseStirrupByMode(r);
+    s.TextoEstribo = stirrupText(s.DiamEstribo, s.EspEstribo);
+    check("Estribo28");
+}
+
+void Passes::chooseStirrupByMode(ColumnResult& r)
+{
+    int chosen = 0; // a catalogue index chosen here, to be staged
+    if (in_.stirrupMode == StirrupMode::Economic) {
+        // Without the same-steel rule the thinnest allowed stirrup at the normal spacing.
+        if (!in_.stirrupsOfBarSteel)
+            return;
+        chosen = leastSteelPerMetre(rules_);
+    } else if (in_.stirrupMode == StirrupMode::Predefined) {
+        const PredefinedStirrup pre = predefinedStirrup(in_.predefinedStirrup);
+        if (pre.diameter >= s.DiamEstribo) {
+            s.DiamEstribo = pre.diameter;
+            s.PesoEstribo = pre.mass;
+            return;
+        }
+        if (!in_.stirrupsOfBarSteel) {
+            // The calculation goes on with the minimum; the error flag is not touched.
+            const Check c = checks::predefinedStirrupTooThin(s.DiamEstribo);
+            s.MensagemErro = c.text;
+            s.ItemNorma = std::string(c.clause);
+            r.checks.push_back(c);
+            questions_->tell(r.checks.back());
+            return;
+        }
+        s.DiamEstribo = pre.diameter;
+        s.PesoEstribo = pre.mass;
+        s.EspEstribo = rules_.sameSteelSpacing.at(static_cast<std::size_t>(pre.index));
+        return;
+    } else if (rules_.minimumIndex == 1) {
+        // 5 mm is already allowed: nothing to choose.
+        s.DiamEstriboEsc = bar(1).diameter;
+        s.PesoEstriboEsc = bar(1).mass;
+        s.EspEstriboEsc = s.EspEstribo;
+    } else if (s.Recalcula != Recalculation::Yes) {
+        chosen = stirrupFromAnswer(rules_, questions_->chooseStirrup(stirrupQuestion(rules_)));
+    }
+    // A repeated pass asks nothing: it keeps the stirrup chosen in the first pass, at
+    // the spacing just computed.
+    if (chosen != 0) {
+        s.Indice = chosen;
+        s.DiamEstriboEsc = bar(chosen).diameter;
+        s.PesoEstriboEsc = bar(chosen).mass;
+        if (chosen < rules_.minimumIndex)
+            s.EspEstriboEsc = rules_.sameSteelSpacing.at(static_cast<std::size_t>(chosen));
+    }
+    s.DiamEstribo = s.DiamEstriboEsc;
+    s.PesoEstribo = s.PesoEstriboEsc;
+    s.EspEstribo = s.EspEstriboEsc;
+}
+
+// The search has set the stirrup; only its spacing is checked here, and a stirrup
+// below the minimum passes only under the same-steel rule.
+void Passes::checkCandidateStirrup()
+{
+    rules_ = stirrupRules(s.DiamLong, s.MenorDim, in_.steel);
+    s.DiamEstriboMin = rules_.minimumDiameter;
+    s.IndiceEstriboMin = rules_.minimumIndex;
+    s.Indice = rules_.minimumIndex;
+    s.EspEstribo = rules_.spacing;
+    int k = 1;
+    while (k < kBarCount && bar(k).diameter < s.DiamEstribo)
+        ++k;
+    if (k < rules_.minimumIndex) {
+        if (in_.stirrupsOfBarSteel)
+            s.EspEstribo = rules_.sameSteelSpacing.at(static_cast<std::size_t>(k));
+        else
+            s.FlagErro = ErrorFlag::Failed;
+    }
+    s.TextoEstribo = stirrupText(s.DiamEstribo, s.EspEstribo);
+    check("Estribo28");
+}
+
+void Passes::ask(ColumnResult& r, CoverRule rule, Check c, std::optional<std::string_view> caption)
+{
+    r.checks.push_back(c);
+    const CoverAnswer a = questions_->askCover({rule, c.text, c.clause, caption});
+    if (a == CoverAnswer::Ignore) {
+        s.FlagErro = ErrorFlag::Failed;
+        return;
+    }
+    switch (rule) {
+    case CoverRule::AggregateSize:
+        s.CobNominal = coverForAggregate(in_.aggregate);
+        break;
+    case CoverRule::BelowNominal:
+        correctCoverToNominal(r);
+        break;
+    case CoverRule::BelowBarDiameter:
+        correctCoverToBar(r);
+        break;
+    }
+}
+
+// The nominal cover enlarged to a whole inner depth of the stirrup; d' follows.
+void Passes::correctCoverToNominal(ColumnResult& r)
+{
+    const WholeInnerDepth w = coverForWholeInnerDepth(in_.depth, s.CobNominal);
+    s.AlturaInterna = w.innerDepth;
+    s.CobEfetivo = w.cover;
+    s.dLinha = s.DiamEstribo + s.DiamLong / 2 + s.CobEfetivo;
+    typedText_ = dLinhaText(s.dLinha);
+    r.dLinhaText = typedText_;
+    s.Recalcula = Recalculation::Yes;
+}
+
+// NBR 6118, 7.4.7.5: the cover of a longitudinal bar is at least its diameter.
+void Passes::correctCoverToBar(ColumnResult& r)
+{
+    s.CobEfetivo = s.DiamLong - s.DiamEstribo;
+    s.CobNominal = s.CobEfetivo;
+    s.CobEfetivo = roundUpToHalf(s.CobEfetivo);
+    const double d = s.DiamEstribo + s.DiamLong / 2 + s.CobEfetivo;
+    if (s.dLinha < d) {
+        s.dLinha = d;
+        typedText_ = dLinhaText(s.dLinha);
+        r.dLinhaText = typedText_;
+        s.Recalcula = Recalculation::Yes;
+    }
+}
+
+// The window asks before correcting; the search and a ticked "correct without
+// asking" correct at once, as the first button would.
+void Passes::checkCover(ColumnResult& r)
+{
+    if (s.Recalcula != Recalculation::Yes) {
+        s.DeltaC = in_.deltaC;
+        s.CobNominal = nominalCover(in_.exposure, s.DeltaC);
+        if (in_.aggregate > 1.2 * s.CobNominal) {
+            if (silent())
+                s.CobNominal = coverForAggregate(in_.aggregate);
+            else
+                ask(r, CoverRule::AggregateSize, checks::coverAggregate(s.CobNominal, in_.aggregate),
+                    kRoundNominalCover);
+        }
+    }
+    s.Recalcula = Recalculation::No;
+
+    const bool correct = silent() || in_.correctCoverWithoutAsking;
+    s.CobEfetivo = s.dLinha - s.DiamEstribo - s.DiamLong / 2;
+    if (roundedCover(s.CobNominal) > roundedCover(s.CobEfetivo)) {
+        if (correct)
+            correctCoverToNominal(r);
+        else
+            ask(r, CoverRule::BelowNominal, checks::coverBelowNominal(s.CobEfetivo, s.CobNominal), kUseMinimumCover);
+    }
+    if (roundedCover(s.CobEfetivo + s.DiamEstribo) < roundedCover(s.DiamLong)) {
+        if (correct)
+            correctCoverToBar(r);
+        else
+            ask(r, CoverRule::BelowBarDiameter, checks::coverBelowBarDiameter(s.CobEfetivo + s.DiamEstribo, s.DiamLong),
+                std::nullopt);
+    }
+
+    const HookAllowances hooks = hookAllowances(s.DiamEstribo, in_.hook);
+    s.ComprGancho = hooks.stirrup;
+    s.ComprGanchoSup = hooks.tie;
+    s.BaseEstribo = in_.base - 2 * s.CobEfetivo;
+    s.AlturaEstribo = in_.depth - 2 * s.CobEfetivo;
+    s.ComprEstribo = 2 * (s.BaseEstribo + s.AlturaEstribo) + s.ComprGancho;
+    check("Cobrimento27");
+}
+
+// Minimum and maximum steel; below the minimum the bar is chosen again for it.
+void Passes::limitSteel(ColumnResult& r)
+{
+    const SteelLimits l = steelLimits(in_.Nd, s.fyd, s.Ac, s.NBarrasTotal);
+    s.AsMin = l.asMin;
+    s.AsMinBarra = l.asMinPerBar;
+    s.AsMax = l.asMax;
+    if (s.AsReal < s.AsMin) {
+        s.AsNec = s.AsMin;
+        s.AsNecBarra = s.AsNec / s.NBarrasTotal;
+        if (const auto b = smallestBar(s.AsNecBarra, s.NBarrasTotal, in_.maxBarIndex)) {
+            // The 1/8 rule is not checked again. Not a message: it tells that the bar
+            // was chosen again, and clears an earlier failure.
+            r.bar = b;
+            s.Indice = b->index;
+            s.AsBarra = b->barArea;
+            s.AsReal = b->providedArea;
+            s.DiamLong = b->diameter;
+            s.PesoLinearLong = b->massPerMetre;
+            s.MensagemErro = "voltar";
+            s.FlagErro = ErrorFlag::None;
+        } else {
+            fail(r, checks::minimumRatioNeedsLargerBar());
+        }
+    }
+    if (s.AsReal > s.AsMax) {
+        if (silent()) {
+            s.FlagErro = ErrorFlag::Failed;
+        } else {
+            const Check c = checks::maximumRatio(s.AsReal, s.AsMax);
+            s.FlagErro = ErrorFlag::Failed;
+            s.MensagemErro = c.text;
+            s.ItemNorma = std::string(c.clause);
+            r.checks.push_back(c);
+            questions_->tell(r.checks.back());
+        }
+    }
+    check("AsMinMax24");
+}
+
+void Passes::checkSpacing(ColumnResult& r)
+{
+    const SpacingCheck c = engine::checkSpacing(in_.base, in_.depth, s.dLinha, in_.barsOnWidthFace,
+                                                in_.barsOnDepthFace, s.DiamLong, in_.aggregate, s.MenorDim, !silent());
+    s.EspLivreH = c.values.freeWidth;
+    s.EspLivreV = c.values.freeDepth;
+    s.EspEixoH = c.values.axisWidth;
+    s.EspEixoV = c.values.axisDepth;
+    s.EspLivreMin = c.values.minimumFree;
+    s.EspEixoMax = c.values.maximumAxis;
+    s.TextoLimite = std::string(c.axisLimit);
+    for (const Check& f : c.failures)
+        fail(r, f);
+    check("Espaçamento26");
+}
+
+void Passes::markTies()
+{
+    s.NSupH = detail::markFaceTies(in_.base, s.dLinha, in_.barsOnWidthFace, s.DiamEstribo, s.EspEixoH, s.nMeioH,
+                                   s.SupH, s.Indice);
+    s.EspSupH = s.EspEixoH;
+    check("EstriboSuplementarH29");
+    s.NSupV = detail::markFaceTies(in_.depth, s.dLinha, in_.barsOnDepthFace, s.DiamEstribo, s.EspEixoV, s.nMeioV,
+                                   s.SupV, s.Indice);
+    s.EspSupV = s.EspEixoV;
+    check("EstriboSuplementarV30");
+}
+
+void Passes::run(ColumnResult& r)
+{
+    s.Recalcula = Recalculation::No;
+    for (int pass = 1;; ++pass) {
+        if (pass > kPassCap)
+            throw CalcError("A correção do cobrimento pediu um novo cálculo mais de " + std::to_string(kPassCap)
+                            + " vezes sem chegar a um d' estável (d' = " + Str(s.dLinha) + " cm). Dados: "
+                            + describe(summary_) + ".");
+        r.passes = pass;
+        s.MensagemErro.clear();
+        if (s.Recalcula != Recalculation::Yes)
+            s.FlagErro = ErrorFlag::None;
+        // Zone "O" needs no search and must give no steel, not a ratio left over
+        // from an earlier calculation.
+        s.Rho = 0;
+        if (!designPass(r))
+            return;
+
+        if (!silent()) {
+            chooseBar(r);
+            if (barTooSmall_)
+                return;
+            chooseStirrup(r);
+            checkCover(r);
+            if (s.Recalcula == Recalculation::Yes)
+                continue;
+            limitSteel(r);
+            checkSpacing(r);
+            markTies();
+            s.Excesso = 100 * (s.AsReal - s.AsNec) / s.AsReal;
+            check("Programa0 (excesso de aço)");
+            s.PesoLong = s.NBarrasTotal * s.PesoLinearLong * in_.length / 100;
+            check("Peso29");
+            finish(r);
+            return;
+        }
+
+        chooseBar(r);
+        if (s.FlagErro == ErrorFlag::Failed)
+            return;
+        checkCandidateStirrup();
+        if (s.FlagErro == ErrorFlag::Failed)
+            return;
+        checkCover(r);
+        if (s.Recalcula == Recalculation::Yes)
+            continue;
+        limitSteel(r);
+        if (s.FlagErro != ErrorFlag::Failed)
+            checkSpacing(r);
+        if (s.FlagErro != ErrorFlag::Failed) {
+            markTies();
+            s.PesoLong = s.NBarrasTotal * s.PesoLinearLong * in_.length / 100;
+            check("Peso29");
+            r.passedSearch = true;
+        }
+        return;
+    }
+}
+
+void Passes::finish(ColumnResult& r)
+{
+    r.detailed = true;
+    DetailedSection d;
+    d.width = in_.base;
+    d.depth = in_.depth;
+    d.dLinha = s.dLinha;
+    d.barsOnWidthFace = in_.barsOnWidthFace;
+    d.barsOnDepthFace = in_.barsOnDepthFace;
+    d.totalBars = s.NBarrasTotal;
+    d.barDiameter = s.DiamLong;
+    d.stirrupDiameter = s.DiamEstribo;
+    d.stirrupSpacing = s.EspEstribo;
+    d.cover = s.CobEfetivo;
+    d.hook = in_.hook;
+    for (long i = 1; i <= in_.barsOnWidthFace && i <= 500; ++i)
+        d.tiesAcrossWidth.push_back(s.SupH(i) == TieFlag::Tie);
+    for (long j = 1; j <= in_.barsOnDepthFace && j <= 500; ++j)
+        d.tiesAcrossDepth.push_back(s.SupV(j) == TieFlag::Tie);
+    r.geometry = sectionGeometry(d);
+    check("Desenha35");
+}
+
+// The results of the calculation as its variables hold them.
+void collect(const MethodState& s, ColumnResult& r, const ColumnInput& in)
+{
+    r.flag = s.FlagErro;
+    if (!r.designed)
+        return;
+    auto& d = r.design;
+    d.concrete = designConcrete(in.fck, in.gammaC);
+    d.steel = designSteel(in.steel, in.gammaS, in.Es);
+    d.dLinha = s.dLinha;
+    d.delta = s.Delta;
+    d.smallerSide = s.MenorDim;
+    d.gammaN = s.GamaN;
+    d.nu = s.Ni;
+    d.mu = s.Mi;
+    d.c1 = {s.BetaXC1, s.EtaC1, s.EtaLinC1, s.KapaC1, s.LambdaC1};
+    d.c2 = {s.BetaXC2, s.EtaC2, s.EtaLinC2, s.KapaC2, s.LambdaC2};
+    d.a = {s.BetaXA, s.EtaA, s.EtaLinA, s.KapaA, s.LambdaA};
+    d.e = {s.BetaXE, s.EtaE, s.EtaLinE, s.KapaE, s.LambdaE};
+    d.niCrit = s.NiCrit;
+    d.mi0 = s.Mi0;
+    d.miA = s.MiA;
+    d.miE = s.MiE;
+    d.miC = s.MiC;
+    d.miC1 = s.MiC1;
+    d.zone = s.Zona;
+    d.betaX = s.BetaX;
+    d.rho = s.Rho;
+    d.asNec = s.AsNec;
+    d.totalBars = s.NBarrasTotal;
+    if (r.bar)
+        r.bar = BarChoice{r.bar->index, s.DiamLong, s.AsBarra, s.AsReal, s.PesoLinearLong};
+    r.stirrup = {s.DiamEstribo, s.EspEstribo, s.PesoEstribo, s.DiamEstriboMin, s.ComprGancho, s.ComprGanchoSup,
+                 s.TextoEstribo};
+    r.cover = {s.CobNominal, s.CobEfetivo, s.BaseEstribo, s.AlturaEstribo, s.ComprEstribo};
+    r.asMin = s.AsMin;
+    r.asMax = s.AsMax;
+    r.spacing = {s.EspLivreH, s.EspLivreV, s.EspEixoH, s.EspEixoV, s.EspLivreMin, s.EspEixoMax};
+    r.tiesAcrossWidth = static_cast<int>(s.NSupH);
+    r.tiesAcrossDepth = static_cast<int>(s.NSupV);
+    r.excess = s.Excesso;
+    r.steelWeight = s.PesoLong;
+}
+
+ColumnResult run(const ColumnInput& in, Questions* questions, Memory& memory, MethodState& s,
+                 const CandidateStirrup* candidate, bool catchFailure)
+{
+    ColumnResult r;
+    // What the method carries from the calculation before.
+    s.Mi0 = memory.mu0;
+    s.Lambda = memory.lambda;
+    s.DiamEstriboEsc = memory.stirrup.diameter;
+    s.PesoEstriboEsc = memory.stirrup.mass;
+    if (candidate) {
+        s.DiamEstribo = candidate->diameter;
+        s.PesoEstribo = candidate->mass;
+    }
+    Passes passes(in, s, memory, questions, candidate);
+    startFloatingPointWatch();
+    try {
+        passes.run(r);
+    } catch (const CalcError& e) {
+        if (!catchFailure) {
+            memory = {s.Mi0, s.Lambda, {s.DiamEstriboEsc, s.PesoEstriboEsc}};
+            throw;
+        }
+        r.failure = e.what();
+    }
+    memory = {s.Mi0, s.Lambda, {s.DiamEstriboEsc, s.PesoEstriboEsc}};
+    collect(s, r, in);
+    if (r.failure) {
+        r.detailed = false;
+        r.geometry.reset();
+    }
+    return r;
+}
+
+} // namespace
+
+ColumnResult calculate(const ColumnInput& input, Questions& questions, Memory& memory, MethodState& state)
+{
+    return run(input, &questions, memory, state, nullptr, true);
+}
+
+ColumnResult calculate(const ColumnInput& input, Questions& questions, Memory& memory)
+{
+    MethodState state;
+    return calculate(input, questions, memory, state);
+}
+
+ColumnResult calculateCandidate(const ColumnInput& input, const CandidateStirrup& stirrup, Memory& memory,
+                                MethodState& state)
+{
+    return run(input, nullptr, memory, state, &stirrup, true);
+}
+
+} // namespace pilarix::engine

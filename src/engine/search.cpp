@@ -1,0 +1,71 @@
+#include "engine/search.h"
+
+#include "engine/catalogue.h"
+
+#include "base/calc_error.h"
+#include "base/number_text.h"
+
+#include <algorithm>
+
+namespace pilarix::engine {
+
+namespace {
+// Room for the whole list is taken at once when it is modest; past this the list
+// grows as solutions come.
+constexpr double kReserveLimit = 1 << 16;
+} // namespace
+
+SearchResult search(const SearchInput& input, Memory& memory, MethodState& state)
+{
+    SearchResult r;
+    ColumnInput column = input.column;
+    column.dLinha.automatic = true;
+    const double sMax = column.maxStirrupIndex;
+    const double candidates = std::max(0.0, input.maxBarsOnDepthFace - 1) * std::max(0.0, input.maxBarsOnWidthFace - 1)
+                              * std::max(0.0, sMax);
+    std::vector<Solution>& found = r.found;
+    found.reserve(static_cast<std::size_t>(std::min(candidates, kReserveLimit)));
+    try {
+        for (double na = 2; na <= input.maxBarsOnDepthFace; ++na) {
+            for (double nb = 2; nb <= input.maxBarsOnWidthFace; ++nb) {
+                for (double s = 1; s <= sMax; ++s) {
+                    column.barsOnDepthFace = CInt16(na, "número de barras na altura");
+                    column.barsOnWidthFace = nb;
+                    r.lastBarsOnDepthFace = column.barsOnDepthFace;
+                    r.lastBarsOnWidthFace = nb;
+                    r.lastStirrupIndex = static_cast<int>(s);
+                    r.last.reset();
+                    const Bar& stirrup = bar(static_cast<int>(s));
+                    ColumnResult c = calculateCandidate(column, {stirrup.diameter, stirrup.mass}, memory, state);
+                    ++r.candidates;
+                    if (c.dLinhaText)
+                        r.dLinhaText = c.dLinhaText;
+                    if (c.failure) {
+                        // The same data would fail every candidate: the search stops.
+                        r.failure = c.failure;
+                        return r;
+                    }
+                    if (c.passedSearch)
+                        found.push_back({state.PesoLong, nb, static_cast<double>(column.barsOnDepthFace),
+                                         static_cast<int>(s), state.DiamEstribo, state.dLinha, state.LambdaC1});
+                    r.last = std::move(c);
+                }
+            }
+        }
+    } catch (const CalcError& e) {
+        r.failure = e.what();
+        return r;
+    }
+    r.solutions = found;
+    std::stable_sort(r.solutions.begin(), r.solutions.end(),
+                     [](const Solution& a, const Solution& b) { return a.weight < b.weight; });
+    return r;
+}
+
+SearchResult search(const SearchInput& input, Memory& memory)
+{
+    MethodState state;
+    return search(input, memory, state);
+}
+
+} // namespace pilarix::engine

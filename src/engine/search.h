@@ -1,0 +1,57 @@
+#pragma once
+// The search for the lightest arrangement ("Calcula melhor solução"): every count of
+// bars on the depth faces (2 up to what fits), on the width faces (2 up to what
+// fits) and every stirrup up to the largest allowed is calculated by the silent pass
+// (calculateCandidate), d' found from the cover; each arrangement that passes every
+// check is kept, and the list is ordered by the weight of its longitudinal steel
+// (equal weights keep the order they were found in: fewer bars on the depth faces,
+// then on the width faces, then the thinner stirrup).
+//
+//   search(input, memory)           -> SearchResult
+//   search(input, memory, state)    the same on the caller's method variables
+
+#include "engine/column.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace pilarix::engine {
+
+struct SearchInput {
+    ColumnInput column;          // the bar counts and d' of it are the search's
+    double maxBarsOnWidthFace = 2; // bars that fit on a face of width b
+    double maxBarsOnDepthFace = 2; // bars that fit on a face of depth h
+};
+
+struct Solution {
+    double weight = 0;           // kg of longitudinal steel
+    double barsOnWidthFace = 0;
+    double barsOnDepthFace = 0;
+    int stirrupIndex = 0;        // catalogue index, 1 to 4
+    double stirrupDiameter = 0;  // cm
+    double dLinha = 0;           // the candidate's final d', cm: with it the window recalculates
+                                 // exactly the listed arrangement
+    double lambdaC1 = 0;         // λ of the candidate's first reference field, where its last
+                                 // pass started from
+};
+
+struct SearchResult {
+    std::vector<Solution> solutions; // lightest first
+    std::vector<Solution> found;     // the same, in the order they were found
+    long candidates = 0;
+    // The last candidate tried (its bars per face and stirrup), and its silent pass
+    // as it ended (none where the method could not go on in it).
+    double lastBarsOnWidthFace = 0, lastBarsOnDepthFace = 0;
+    int lastStirrupIndex = 0;
+    std::optional<ColumnResult> last;
+    // d' as the last cover correction of the search wrote it in the typed box.
+    std::optional<std::string> dLinhaText;
+    // Set when the method could not go on: the search stopped there.
+    std::optional<std::string> failure;
+};
+
+SearchResult search(const SearchInput& input, Memory& memory);
+SearchResult search(const SearchInput& input, Memory& memory, MethodState& state);
+
+} // namespace pilarix::engine

@@ -1,0 +1,59 @@
+#pragma once
+// The one seam through which the core asks the user something or tells him
+// something. The window answers with real modal dialogs; the command line and the
+// tests answer by policy and keep a record. The core fills the form model of the
+// dialog before the call and runs the dialog's own button handlers after it.
+
+#include "window/forms.h"
+
+#include <string>
+
+namespace pilarix {
+
+class DialogPort {
+public:
+    virtual ~DialogPort() = default;
+
+    // "Mensagem de erro": Label1 holds the message, Label2 the clause; "Continuar" closes it.
+    virtual void showError(const Form2Model& form) = 0;
+
+    // "Cobrimento": returns 1 for the first button (Command2), 2 for "&2 - Ignorar".
+    virtual int askCover(const Form4Model& form) = 0;
+
+    // "Escolha dos estribos": the port selects one element of Option1 in the form
+    // (the OK button's handler then reads the selection).
+    virtual void chooseStirrup(Form7Model& form) = 0;
+
+    // A plain notice (the search that found nothing).
+    virtual void notice(const std::string& text) = 0;
+
+    // The system beep (a key the bar list does not accept).
+    virtual void beep() = 0;
+
+    // File dialogs with the filter "Text files (*.TXT)|*.TXT"; empty when cancelled.
+    virtual std::string askOpenFileName() = 0;
+    virtual std::string askSaveFileName() = 0;
+};
+
+// Answers by policy and remembers nothing: for benchmarks and for runs that only
+// need the numbers.
+class SilentDialogs : public DialogPort {
+public:
+    int coverAnswer = 1;
+    int stirrupOption = 4;
+
+    void showError(const Form2Model&) override {}
+    int askCover(const Form4Model&) override { return coverAnswer; }
+    void chooseStirrup(Form7Model& form) override
+    {
+        for (auto& o : form.Option1)
+            o.Value = false;
+        form.Option1[static_cast<std::size_t>(stirrupOption)].Value = true;
+    }
+    void notice(const std::string&) override {}
+    void beep() override {}
+    std::string askOpenFileName() override { return {}; }
+    std::string askSaveFileName() override { return {}; }
+};
+
+} // namespace pilarix

@@ -1,0 +1,178 @@
+#pragma once
+// The program's window, without a toolkit: the form model, reading the window into
+// the values of a calculation (Ler02, with its corrections and messages), the
+// buttons and the driver's modes, the dialogs, and the result boxes. The
+// calculation itself is the engine's (src/engine): Programa0 reads the window,
+// hands the engine a ColumnInput and writes back what it returns. Window-level
+// routines keep the names the program gives them; docs/routines.md traces the
+// method's routines to the engine.
+
+#include "engine/geometry.h"
+#include "engine/memory.h"
+#include "engine/method_state.h"
+#include "engine/search.h"
+#include "window/dialog_port.h"
+#include "window/forms.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace pilarix {
+
+// What Ler02 reads from the window, in the program's internal units (cm, kgf,
+// kgf·cm, kgf/cm²), under the names the program gives them.
+struct WindowReading {
+    double Base = 0, Altura = 0, Comprimento = 0;
+    double nBase = 0;
+    std::int16_t nAltura = 0;
+    std::int16_t nMaxBase = 0;
+    double nMaxAltura = 0;
+    double Escala = 0;
+    int MargemDesenho = 0;
+    double OrigemX = 0, OrigemY = 0;
+    double DiamAgregado = 0;
+    double Nd = 0, Md = 0, Fck = 0, Es = 0, GamaC = 0, GamaS = 0;
+    double Precisao = 0;
+    int IndiceBitolaMax = 0;
+    float IndiceEstriboMax = 0;
+    std::string ErroEntrada;
+    // units
+    std::string UnidadeNome;
+    double FatorUnidade = 0;
+};
+
+// One arrangement kept by the best-solution search.
+struct SolutionRow {
+    double peso = 0;          // PesoLong of the candidate, kg: the ordering key
+    double nBase = 0;         // bars on each face of width b
+    double nAltura = 0;       // bars on each face of depth h
+    double IndiceEstribo = 0; // catalogue index of the stirrup, 1 to 4
+    double DiamEstribo = 0;   // stirrup diameter, cm
+    double dLinha = 0;        // the candidate's final d', cm, so that it recalculates exactly
+    double LambdaC1 = 0;      // λ of the first reference field in the candidate's last pass
+};
+
+class Program : public WindowReading, public Forms {
+public:
+    explicit Program(DialogPort& dialogs) : dialogs_(&dialogs) {}
+    Program(const Program&) = default;
+    Program& operator=(const Program&) = default;
+
+    DialogPort& dialogs() { return *dialogs_; }
+    void setDialogs(DialogPort& dialogs) { dialogs_ = &dialogs; }
+
+    // The method's variables as the calculations of this window left them, and what
+    // the method carries from one calculation to the next.
+    engine::MethodState metodo;
+    engine::Memory memoria;
+    // The drawing of the section of the last detailed calculation.
+    std::optional<engine::SectionGeometry> Desenho;
+
+    // The pass Programa0 runs: the interactive pass (reads the window, asks, shows
+    // every message and the results) or the silent pass of the search (reads
+    // nothing, shows nothing, keeps the arrangement if it passes). A "&Calcula" with
+    // "d' automático f(cobrimento)" ticked runs the silent pass on the values
+    // already read, as the program always did.
+    enum class Passe { Interativo, Silencioso };
+    Passe passeDoCalculo() const { return Form1.Check3.ticked() ? Passe::Silencioso : Passe::Interativo; }
+
+    // ---- driver (window/programa.cpp) ----
+    void Programa0();
+    void Command1_Click();  // "&Calcula"
+    void Command2_Click();  // + bars on the width faces
+    void Command3_Click();  // - bars on the width faces
+    void Command4_Click();  // + bars on the depth faces
+    void Command5_Click();  // - bars on the depth faces
+    void Command16_Click(); // + base
+    void Command13_Click(); // - base
+    void Command15_Click(); // + depth
+    void Command14_Click(); // - depth
+    void SomaNd();          // + 1 on the axial force
+
+    // The values of a calculation as the window holds them after Ler02.
+    engine::ColumnInput entradaDoCalculo() const;
+
+    // ---- input (window/read_input.cpp, window/units.cpp) ----
+    void Ler02();
+    void Unidades30();
+    void UltimoDiametroLongitudunal();
+    void UltimoDiametroEstribo();
+    void Form8Command1_Click(); // "&Voltar" of "Outros valores"
+
+    // ---- result boxes (window/results.cpp) ----
+    void Zera31();
+    void Imprime37();
+
+    // ---- best-solution search (window/solutions.cpp) ----
+    double NSolucoes = 0;
+    std::int16_t SolucaoAtual = 0;
+    std::string SolucaoNoForm; // "s" once a stored solution has been put into the window
+    double IndiceEstriboBusca = 0; // stirrup of the arrangement a silent pass stores
+    std::vector<SolutionRow> Solucoes;  // in the order of discovery
+    std::vector<SolutionRow> Ordenadas; // ascending by weight, stable
+
+    void Command8_Click();  // "Calcula &melhor solução"
+    void GuardaValores42();
+    void EscolheValores43();
+    void ValoresnoForm1144();
+    void Command11_Click(); // "&Outras soluções"
+    void Command9_Click();  // next solution
+    void Command10_Click(); // previous solution
+    void Form11Escolhe();
+    void Form11BotaoMais();
+    void Form11BotaoMenos();
+
+    // ---- project files (files/project_file.cpp) ----
+    std::string NomeArquivo;
+    std::string ErroArquivo; // why the last file could not be read or written; empty when it could
+    void Grava32();
+    void Carrega33();
+    void Form_Load();
+    void Command7_Click();            // "Valores &padrão"
+    void mnuItemCarregpadr_Click();   // "Carre&gar valores padrões"
+    void mnuItemSaveDefault_Click();  // "Salvar valores como &padrão"
+    void mnuItemload_Click();         // "&Abrir arquivo..."
+    void mnuItemSave_Click();         // "&Salvar como..."
+
+    // ---- d' estimate (window/d_estimate.cpp) ----
+    double dLinhaEstimada = 0;
+    void Form5Calcula();
+    void Form5Aceita();
+
+    // ---- shared machinery ----
+    // Puts MensagemErro and ItemNorma into "Mensagem de erro" and shows it.
+    void MostraErro();
+    // The window's entry points run through this: a CalcError is shown as a
+    // message, the "Erros" box reads "erro" and the input is kept.
+    template <typename F>
+    void comMensagemDeErro(F&& body);
+    void falhaDeCalculo(const std::string& mensagem);
+    // The values that identify a calculation, for messages about one that failed.
+    std::string resumoDosDados() const;
+
+private:
+    void programa0Passes();
+    void passeInterativo();
+    void passeSilencioso();
+    void finalDeErro();
+
+    DialogPort* dialogs_;
+};
+
+} // namespace pilarix
+
+#include "base/calc_error.h"
+
+namespace pilarix {
+template <typename F>
+void Program::comMensagemDeErro(F&& body)
+{
+    try {
+        body();
+    } catch (const CalcError& e) {
+        falhaDeCalculo(e.what());
+    }
+}
+} // namespace pilarix

@@ -1,0 +1,276 @@
+// The calculation driver of the window: one complete design of the column from the
+// window's values, through the engine, in the interactive pass or the silent pass
+// of the search; and the step buttons.
+
+#include "window/program.h"
+
+#include "base/number_text.h"
+#include "engine/column.h"
+#include "engine/failure.h"
+
+#include <cfenv>
+
+namespace pilarix {
+
+namespace {
+
+// The engine's questions, asked in the window's own dialogs through its port.
+class PerguntasDaJanela : public engine::Questions {
+public:
+    explicit PerguntasDaJanela(Program& p) : p_(p) {}
+
+    engine::CoverAnswer askCover(const engine::CoverQuestion& q) override
+    {
+        auto& f = p_.Form4;
+        f.Label2.Caption = q.message;
+        f.Label3.Caption = std::string(q.clause);
+        // The first button's caption stays as it was last set where the question
+        // names none.
+        if (q.correctCaption)
+            f.Command2.Caption = std::string(*q.correctCaption);
+        return p_.dialogs().askCover(f) == 1 ? engine::CoverAnswer::Correct : engine::CoverAnswer::Ignore;
+    }
+
+    int chooseStirrup(const engine::StirrupQuestion& q) override
+    {
+        auto& f = p_.Form7;
+        f.Label1.Caption = q.heading;
+        f.Label2.Caption = q.explanation;
+        for (int i = 0; i < q.count && i < 4; ++i) {
+            f.Option1[static_cast<std::size_t>(i)].Caption = q.options[static_cast<std::size_t>(i)];
+            f.Option1[static_cast<std::size_t>(i)].Enabled = true;
+        }
+        for (auto& o : f.Option1)
+            o.Value = false;
+        p_.dialogs().chooseStirrup(f);
+        // An option chosen while disabled counts as the last one, the least steel.
+        int escolhida = engine::kLeastSteelOption;
+        for (int i = 0; i < q.count && i < 4; ++i) {
+            const auto& o = f.Option1[static_cast<std::size_t>(i)];
+            if (o.Value && o.Enabled) {
+                escolhida = i;
+                break;
+            }
+        }
+        // The dialog is cleared for its next use.
+        for (std::size_t i = 0; i < 4; ++i) {
+            f.Option1[i].Caption.clear();
+            f.Option1[i].Enabled = false;
+        }
+        return escolhida;
+    }
+
+    void tell(const engine::Check&) override { p_.MostraErro(); }
+
+private:
+    Program& p_;
+};
+
+engine::StirrupMode modoDoEstribo(const Form1Model& f)
+{
+    if (f.Option5.Value)
+        return engine::StirrupMode::Economic;
+    if (f.Option3.Value)
+        return engine::StirrupMode::Predefined;
+    return engine::StirrupMode::Manual;
+}
+
+int estriboPreDefinido(const std::string& texto)
+{
+    for (std::size_t i = 0; i < lists::estribo.size(); ++i)
+        if (texto == lists::estribo[i])
+            return static_cast<int>(i) + 1;
+    return 1;
+}
+
+engine::ExposureClass classe(const std::string& texto)
+{
+    if (texto == "I")
+        return engine::ExposureClass::I;
+    if (texto == "III")
+        return engine::ExposureClass::III;
+    if (texto == "IV")
+        return engine::ExposureClass::IV;
+    return engine::ExposureClass::II;
+}
+
+} // namespace
+
+void Program::MostraErro()
+{
+    Form2.Label1.Caption = metodo.MensagemErro;
+    Form2.Label2.Caption = metodo.ItemNorma;
+    dialogs().showError(Form2);
+}
+
+std::string Program::resumoDosDados() const
+{
+    return engine::describe({Base, Altura, nBase, static_cast<double>(nAltura), metodo.dLinha, Nd, Md, Fck, Precisao});
+}
+
+void Program::falhaDeCalculo(const std::string& mensagem)
+{
+    metodo.MensagemErro = mensagem;
+    metodo.ItemNorma.clear();
+    metodo.FlagErro = engine::ErrorFlag::Failed;
+    MostraErro();
+    finalDeErro();
+}
+
+void Program::finalDeErro()
+{
+    Form1.Text30.Text = "erro";
+    Form1.Text30.BackColor = kRed;
+}
+
+engine::ColumnInput Program::entradaDoCalculo() const
+{
+    const auto& f = Form1;
+    engine::ColumnInput in;
+    in.base = Base;
+    in.depth = Altura;
+    in.length = Comprimento;
+    in.barsOnWidthFace = nBase;
+    in.barsOnDepthFace = nAltura;
+    in.dLinha.automatic = f.Check3.ticked();
+    in.dLinha.typed = in.dLinha.automatic ? 0 : Val(f.Text3.Text);
+    in.Nd = Nd;
+    in.Md = Md;
+    in.fck = Fck;
+    in.Es = Es;
+    in.gammaC = GamaC;
+    in.gammaS = GamaS;
+    in.steel = engine::steelGradeFromText(f.Combo1.Text).value_or(engine::SteelGrade::CA50A);
+    in.precision = Precisao;
+    in.aggregate = DiamAgregado;
+    in.maxBarIndex = IndiceBitolaMax;
+    in.maxStirrupIndex = IndiceEstriboMax;
+    // Δc by the tolerance chosen; with neither chosen (a file may say so) it stays
+    // as the last calculation took it.
+    in.deltaC = f.Option1.Value ? 1 : f.Option2.Value ? 0.5 : metodo.DeltaC;
+    in.exposure = classe(f.Combo2.Text);
+    in.correctCoverWithoutAsking = f.Check1.ticked();
+    in.stirrupMode = modoDoEstribo(f);
+    in.predefinedStirrup = estriboPreDefinido(f.Combo3.Text);
+    in.stirrupsOfBarSteel = f.Check5.ticked();
+    in.hook = f.Option7[0].Value ? engine::Hook::Angle45 : engine::Hook::RightAngle;
+    return in;
+}
+
+void Program::Programa0()
+{
+    comMensagemDeErro([this] { programa0Passes(); });
+}
+
+void Program::programa0Passes()
+{
+    metodo.Recalcula = engine::Recalculation::No;
+    Form1.Image1Visible = false;
+    if (passeDoCalculo() == Passe::Silencioso) {
+        passeSilencioso();
+        return;
+    }
+
+    std::feclearexcept(FE_ALL_EXCEPT);
+    Ler02();
+    engine::checkFloatingPoint("Ler02", {Base, Altura, nBase, static_cast<double>(nAltura), metodo.dLinha, Nd, Md,
+                                         Fck, Precisao});
+    const bool erroDeEntrada = ErroEntrada == "s";
+    Desenho.reset();
+    Zera31();
+    if (erroDeEntrada) {
+        finalDeErro();
+        return;
+    }
+    passeInterativo();
+}
+
+void Program::passeInterativo()
+{
+    PerguntasDaJanela perguntas(*this);
+    const engine::ColumnResult r = engine::calculate(entradaDoCalculo(), perguntas, memoria, metodo);
+    if (r.dLinhaText)
+        Form1.Text3.Text = *r.dLinhaText;
+    if (r.failure) {
+        falhaDeCalculo(*r.failure);
+        return;
+    }
+    if (!r.designed) {
+        finalDeErro();
+        return;
+    }
+    if (!r.detailed) {
+        // No catalogue bar is both large enough and within the largest allowed bar:
+        // nothing can be detailed.
+        Form1.CotasVisiveis = false;
+        finalDeErro();
+        return;
+    }
+    Desenho = r.geometry;
+    Form1.CotasVisiveis = true;
+    std::feclearexcept(FE_ALL_EXCEPT);
+    Imprime37();
+    engine::checkFloatingPoint("Imprime37", {Base, Altura, nBase, static_cast<double>(nAltura), metodo.dLinha, Nd, Md,
+                                             Fck, Precisao});
+    if (metodo.FlagErro == engine::ErrorFlag::None) {
+        Form1.Text30.Text = "Ok";
+        Form1.Text30.BackColor = kWhite;
+    } else {
+        finalDeErro();
+    }
+}
+
+// The silent pass on the values already read: the stirrup is the one the window's
+// state holds, d' is found from the cover, and an arrangement that passes is kept.
+void Program::passeSilencioso()
+{
+    Desenho.reset();
+    Zera31();
+    engine::ColumnInput in = entradaDoCalculo();
+    in.dLinha.automatic = true;
+    const engine::ColumnResult r =
+        engine::calculateCandidate(in, {metodo.DiamEstribo, metodo.PesoEstribo}, memoria, metodo);
+    if (r.dLinhaText)
+        Form1.Text3.Text = *r.dLinhaText;
+    if (r.failure)
+        falhaDeCalculo(*r.failure);
+    else if (r.passedSearch)
+        GuardaValores42();
+}
+
+// ---- "&Calcula" and the step buttons ----
+
+void Program::Command1_Click() { Programa0(); }
+
+namespace {
+// A step button: changes one box by the step held in `passoCaixa` (1 without one),
+// in the direction `sinal`, not going down from `minimo` or below, and writes the
+// new value back as text. The calculation runs whatever the box held.
+void passoDaCaixa(Program& p, TextBox& caixa, const TextBox* passoCaixa, double sinal, double minimo)
+{
+    p.comMensagemDeErro([&] {
+        const double passo = sinal * (passoCaixa != nullptr ? Val(passoCaixa->Text) : 1);
+        const double n = Val(caixa.Text);
+        if (sinal > 0 || n > minimo)
+            caixa.Text = Str(n + passo);
+    });
+    p.Programa0();
+}
+constexpr double kSemMinimo = -1e300;
+} // namespace
+
+// Bars per face go down only while there are more than two: a face always has its
+// two corner bars.
+void Program::Command2_Click() { passoDaCaixa(*this, Form1.Text4, nullptr, 1, 2); }
+void Program::Command3_Click() { passoDaCaixa(*this, Form1.Text4, nullptr, -1, 2); }
+void Program::Command4_Click() { passoDaCaixa(*this, Form1.Text5, nullptr, 1, 2); }
+void Program::Command5_Click() { passoDaCaixa(*this, Form1.Text5, nullptr, -1, 2); }
+
+void Program::Command16_Click() { passoDaCaixa(*this, Form1.Text1, &Form1.Text31, 1, kSemMinimo); }
+void Program::Command13_Click() { passoDaCaixa(*this, Form1.Text1, &Form1.Text31, -1, kSemMinimo); }
+void Program::Command15_Click() { passoDaCaixa(*this, Form1.Text2, &Form1.Text32, 1, kSemMinimo); }
+void Program::Command14_Click() { passoDaCaixa(*this, Form1.Text2, &Form1.Text32, -1, kSemMinimo); }
+
+void Program::SomaNd() { passoDaCaixa(*this, Form1.Text16, nullptr, 1, kSemMinimo); }
+
+} // namespace pilarix
