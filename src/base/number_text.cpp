@@ -2,6 +2,7 @@
 
 #include "base/calc_error.h"
 
+#include <charconv>
 #include <cerrno>
 #include <cmath>
 #include <cstdio>
@@ -23,15 +24,16 @@ struct Digits {
 
 Digits digits15(double ax)
 {
+    // d.dddddddddddddde±XX, correctly rounded as printf's "%.14e" is.
     char buf[64];
-    std::snprintf(buf, sizeof buf, "%.14e", ax); // d.dddddddddddddde±XX
+    const auto end = std::to_chars(buf, buf + sizeof buf, ax, std::chars_format::scientific, 14).ptr;
     Digits out;
     out.d.reserve(15);
     const char* p = buf;
-    for (; *p && *p != 'e'; ++p)
+    for (; p != end && *p != 'e'; ++p)
         if (isDigit(*p))
             out.d.push_back(*p);
-    out.exp10 = (*p == 'e') ? std::atoi(p + 1) : 0;
+    out.exp10 = (p != end) ? std::atoi(std::string(p + 1, static_cast<const char*>(end)).c_str()) : 0;
     return out;
 }
 } // namespace

@@ -34,6 +34,9 @@ public:
     static constexpr int upper() { return Hi; }
     const char* name() const { return name_; }
     void fill(const T& value) { items_.fill(value); }
+    // The element of index Lo, for loops that have checked their range once.
+    T* data() { return items_.data(); }
+    const T* data() const { return items_.data(); }
 
 private:
     void check(long i) const

@@ -20,6 +20,7 @@
 #include "base/number_text.h"
 
 #include <string>
+#include <utility>
 
 namespace pilarix::engine {
 
@@ -47,6 +48,8 @@ public:
     }
 
     void run(ColumnResult& r);
+    // The texts the silent pass leaves to the end: nothing reads them in between.
+    void writeDeferredTexts(ColumnResult& r);
 
 private:
     bool silent() const { return candidate_ != nullptr; }
@@ -64,6 +67,7 @@ private:
     void checkCover(ColumnResult& r);
     void ask(ColumnResult& r, CoverRule rule, Check c, std::optional<std::string_view> caption);
     void correctCoverToNominal(ColumnResult& r);
+    void rewriteDLinha(ColumnResult& r);
     void correctCoverToBar(ColumnResult& r);
     void limitSteel(ColumnResult& r);
     void checkSpacing(ColumnResult& r);
@@ -79,6 +83,8 @@ private:
     ColumnSummary summary_;
     detail::ZoneMethod method_;
     std::optional<std::string> typedText_; // d' as a correction rewrote it
+    std::optional<double> correctedDLinha_; // the same, found from the cover
+    std::optional<std::pair<double, double>> stirrupForText_;
     bool barTooSmall_ = false;
     StirrupRules rules_;
 };
@@ -298,7 +304,7 @@ void Passes::checkCandidateStirrup()
         else
             s.FlagErro = ErrorFlag::Failed;
     }
-    s.TextoEstribo = stirrupText(s.DiamEstribo, s.EspEstribo);
+    stirrupForText_ = {s.DiamEstribo, s.EspEstribo};
     check("Estribo28");
 }
 
@@ -323,6 +329,26 @@ void Passes::ask(ColumnResult& r, CoverRule rule, Check c, std::optional<std::st
     }
 }
 
+// A corrected d' is written back into the typed box; a typed d' is read back from
+// that text on the next pass, so it is composed at once.
+void Passes::rewriteDLinha(ColumnResult& r)
+{
+    if (in_.dLinha.automatic) {
+        correctedDLinha_ = s.dLinha;
+        return;
+    }
+    typedText_ = dLinhaText(s.dLinha);
+    r.dLinhaText = typedText_;
+}
+
+void Passes::writeDeferredTexts(ColumnResult& r)
+{
+    if (correctedDLinha_)
+        r.dLinhaText = dLinhaText(*correctedDLinha_);
+    if (stirrupForText_)
+        s.TextoEstribo = stirrupText(stirrupForText_->first, stirrupForText_->second);
+}
+
 // The nominal cover enlarged to a whole inner depth of the stirrup; d' follows.
 void Passes::correctCoverToNominal(ColumnResult& r)
 {
@@ -330,8 +356,7 @@ void Passes::correctCoverToNominal(ColumnResult& r)
     s.AlturaInterna = w.innerDepth;
     s.CobEfetivo = w.cover;
     s.dLinha = s.DiamEstribo + s.DiamLong / 2 + s.CobEfetivo;
-    typedText_ = dLinhaText(s.dLinha);
-    r.dLinhaText = typedText_;
+    rewriteDLinha(r);
     s.Recalcula = Recalculation::Yes;
 }
 
@@ -344,8 +369,7 @@ void Passes::correctCoverToBar(ColumnResult& r)
     const double d = s.DiamEstribo + s.DiamLong / 2 + s.CobEfetivo;
     if (s.dLinha < d) {
         s.dLinha = d;
-        typedText_ = dLinhaText(s.dLinha);
-        r.dLinhaText = typedText_;
+        rewriteDLinha(r);
         s.Recalcula = Recalculation::Yes;
     }
 }
@@ -545,7 +569,6 @@ void Passes::finish(ColumnResult& r)
 // The results of the calculation as its variables hold them.
 void collect(const MethodState& s, ColumnResult& r, const ColumnInput& in)
 {
-    r.flag = s.FlagErro;
     if (!r.designed)
         return;
     auto& d = r.design;
@@ -587,7 +610,7 @@ void collect(const MethodState& s, ColumnResult& r, const ColumnInput& in)
 }
 
 ColumnResult run(const ColumnInput& in, Questions* questions, Memory& memory, MethodState& s,
-                 const CandidateStirrup* candidate, bool catchFailure)
+                 const CandidateStirrup* candidate)
 {
     ColumnResult r;
     // What the method carries from the calculation before.
@@ -604,14 +627,14 @@ ColumnResult run(const ColumnInput& in, Questions* questions, Memory& memory, Me
     try {
         passes.run(r);
     } catch (const CalcError& e) {
-        if (!catchFailure) {
-            memory = {s.Mi0, s.Lambda, {s.DiamEstriboEsc, s.PesoEstriboEsc}};
-            throw;
-        }
         r.failure = e.what();
     }
+    passes.writeDeferredTexts(r);
     memory = {s.Mi0, s.Lambda, {s.DiamEstriboEsc, s.PesoEstriboEsc}};
-    collect(s, r, in);
+    r.flag = s.FlagErro;
+    // The search reads only whether the candidate passed; the rest is the state's.
+    if (!candidate)
+        collect(s, r, in);
     if (r.failure) {
         r.detailed = false;
         r.geometry.reset();
@@ -623,7 +646,7 @@ ColumnResult run(const ColumnInput& in, Questions* questions, Memory& memory, Me
 
 ColumnResult calculate(const ColumnInput& input, Questions& questions, Memory& memory, MethodState& state)
 {
-    return run(input, &questions, memory, state, nullptr, true);
+    return run(input, &questions, memory, state, nullptr);
 }
 
 ColumnResult calculate(const ColumnInput& input, Questions& questions, Memory& memory)
@@ -635,7 +658,7 @@ ColumnResult calculate(const ColumnInput& input, Questions& questions, Memory& m
 ColumnResult calculateCandidate(const ColumnInput& input, const CandidateStirrup& stirrup, Memory& memory,
                                 MethodState& state)
 {
-    return run(input, nullptr, memory, state, &stirrup, true);
+    return run(input, nullptr, memory, state, &stirrup);
 }
 
 } // namespace pilarix::engine

@@ -29,6 +29,9 @@ std::string describe(const ColumnSummary& s);
 void startFloatingPointWatch();
 // Raises CalcError naming the stage and the fault when a flag is raised.
 void checkFloatingPoint(const char* stage, const ColumnSummary& s);
+// Whether a division by zero, an invalid operation or an overflow has been raised
+// since the watch started: cheap enough to ask after every stage.
+bool floatingPointFault();
 
 // Caps on the work of one calculation. A converging march needs a few hundred steps
 // and a repeated pass ends after two or three; past these the method has lost its

@@ -137,18 +137,24 @@ double ZoneMethod::forceMomentResidual(ZoneMethod& m)
 
 void ZoneMethod::layerStrains()
 {
+    // The layers were laid out (at most 500, or the layout would have stopped), so
+    // the loop runs over the arrays directly: it is the innermost loop of every march.
     const double L = domain2Limit(s.Delta);
+    const double bx = s.BetaX;
+    const double* yRel = s.YRel.data();
+    double* eps = s.Eps.data();
+    double* sig = s.Sig.data();
     for (s.Indice = 1; s.Indice <= nAltura_; ++s.Indice) {
-        const double y = s.YRel(s.Indice - 1);
+        const double y = yRel[s.Indice - 1];
         double e;
-        if (s.BetaX <= L)
-            e = 10 * (s.BetaX - y) / (1 - s.Delta - s.BetaX);
-        else if (s.BetaX <= 1)
-            e = 3.5 * (s.BetaX - y) / s.BetaX;
+        if (bx <= L)
+            e = 10 * (bx - y) / (1 - s.Delta - bx);
+        else if (bx <= 1)
+            e = 3.5 * (bx - y) / bx;
         else
-            e = 14 * (s.BetaX - y) / (7 * s.BetaX - 3);
-        s.Eps(s.Indice) = e;
-        s.Sig(s.Indice) = steelStress(steel_, e);
+            e = 14 * (bx - y) / (7 * bx - 3);
+        eps[s.Indice] = e;
+        sig[s.Indice] = steelStress(steel_, e);
     }
 }
 
@@ -246,13 +252,18 @@ void ZoneMethod::concreteMoment()
 
 void ZoneMethod::barResultant()
 {
-    s.SigMedY = 0;
-    s.SigMed = 0;
     layerStrains();
+    const double* yRel = s.YRel.data();
+    const double* bars = s.NBarCam.data();
+    const double* sig = s.Sig.data();
+    const double total = s.NBarrasTotal;
+    double sumY = 0, sum = 0;
     for (long i = 1; i <= nAltura_; ++i) {
-        s.SigMedY = s.SigMedY + s.YRel(i - 1) * s.NBarCam(i - 1) * s.Sig(i) / s.NBarrasTotal;
-        s.SigMed = s.SigMed + s.Sig(i) * s.NBarCam(i - 1) / s.NBarrasTotal;
+        sumY = sumY + yRel[i - 1] * bars[i - 1] * sig[i] / total;
+        sum = sum + sig[i] * bars[i - 1] / total;
     }
+    s.SigMedY = sumY;
+    s.SigMed = sum;
 
     if (std::fabs(s.SigMed) <= P) {
         // The bars carry no resultant force, only a couple: its line of action is
@@ -293,11 +304,12 @@ void ZoneMethod::referenceFields()
     struct Kept {
         double *betaX, *eta, *etaLin, *kapa, *lambda;
     };
-    // Each reference keeps the βx it was given, not the one the concrete resultant rewrites.
+    // Each reference keeps the βx it was given, not the one the concrete resultant
+    // rewrites. The bars' strains are those of the rewritten βx: the resultant of the
+    // bars takes them after the concrete's.
     auto evaluate = [this](double betaX, Kept k) {
         *k.betaX = betaX;
         s.BetaX = betaX;
-        layerStrains();
         fieldFromNeutralAxis();
         barResultant();
         *k.eta = s.Eta;

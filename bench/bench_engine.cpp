@@ -1,0 +1,95 @@
+// The engine's calculation of one column and the search for the lightest
+// arrangement, as a caller of the engine runs them: values in, a result out, a
+// fresh start of the method each time.
+
+#include "engine/column.h"
+#include "engine/search.h"
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+using namespace pilarix;
+
+// The window's defaults: 20 x 50 cm, 2 x 4 bars, 400 kN, 10000 kN.cm, fck 20 MPa,
+// CA-50A, d' as the cover settles it (4.125 cm).
+engine::ColumnInput defaults()
+{
+    engine::ColumnInput in;
+    in.dLinha.typed = 4.125;
+    return in;
+}
+
+void calculateColumn(benchmark::State& state, const engine::ColumnInput& in)
+{
+    engine::FixedAnswers answers;
+    engine::ColumnResult r;
+    for (auto _ : state) {
+        engine::Memory memory;
+        r = engine::calculate(in, answers, memory);
+        benchmark::DoNotOptimize(r);
+    }
+    state.counters["AsNec"] = r.design.asNec;
+    state.SetLabel(std::string(r.ok() ? "Ok" : "erro") + ", " + std::to_string(r.passes) + " passe(s)");
+}
+
+void BM_Calculate_Defaults(benchmark::State& state) { calculateColumn(state, defaults()); }
+BENCHMARK(BM_Calculate_Defaults);
+
+// As the window starts: d' empty, so the cover corrects it and the pass runs again.
+void BM_Calculate_DefaultsFromEmptyDLinha(benchmark::State& state)
+{
+    engine::ColumnInput in = defaults();
+    in.dLinha.typed = 0;
+    calculateColumn(state, in);
+}
+BENCHMARK(BM_Calculate_DefaultsFromEmptyDLinha);
+
+// A wall-like section with 20 bars on each depth face, in zone C: the marches run over
+// 20 layers.
+void BM_Calculate_40x120_20Bars_ZoneC(benchmark::State& state)
+{
+    engine::ColumnInput in = defaults();
+    in.base = 40;
+    in.depth = 120;
+    in.dLinha.typed = 4;
+    in.barsOnDepthFace = 20;
+    in.Nd = 300000;
+    in.Md = 9000000;
+    calculateColumn(state, in);
+}
+BENCHMARK(BM_Calculate_40x120_20Bars_ZoneC);
+
+void searchSection(benchmark::State& state, double b, double h)
+{
+    engine::SearchInput in;
+    in.column = defaults();
+    in.column.base = b;
+    in.column.depth = h;
+    // The bars that fit on a face, 5 cm apart, with d' empty (as Ler02 counts them).
+    in.maxBarsOnWidthFace = static_cast<double>(static_cast<int>(b / 5 + 1 + 0.5));
+    in.maxBarsOnDepthFace = static_cast<double>(static_cast<int>(h / 5 + 1));
+    engine::SearchResult r;
+    for (auto _ : state) {
+        engine::Memory memory;
+        r = engine::search(in, memory);
+        benchmark::DoNotOptimize(r);
+    }
+    state.counters["candidatos"] = static_cast<double>(r.candidates);
+    state.counters["solucoes"] = static_cast<double>(r.solutions.size());
+    if (!r.solutions.empty())
+        state.SetLabel("melhor " + std::to_string(static_cast<int>(r.solutions[0].barsOnWidthFace)) + " x "
+                       + std::to_string(static_cast<int>(r.solutions[0].barsOnDepthFace)) + ", "
+                       + std::to_string(r.solutions[0].weight) + " kg");
+}
+
+void BM_Search_Defaults(benchmark::State& state) { searchSection(state, 20, 50); }
+BENCHMARK(BM_Search_Defaults)->Unit(benchmark::kMillisecond);
+
+void BM_Search_40x120(benchmark::State& state) { searchSection(state, 40, 120); }
+BENCHMARK(BM_Search_40x120)->Unit(benchmark::kMillisecond);
+
+void BM_Search_100x500(benchmark::State& state) { searchSection(state, 100, 500); }
+BENCHMARK(BM_Search_100x500)->Unit(benchmark::kMillisecond);
+
+} // namespace
