@@ -1,7 +1,6 @@
 #include "cli/cli.h"
 
 #include "cli/controls_by_name.h"
-#include "cli/recording_dialogs.h"
 #include "base/number_text.h"
 
 #include <filesystem>
@@ -140,7 +139,7 @@ bool load(Program& p, const std::string& file, std::string& error)
     return true;
 }
 
-void report(const Program& p, const RecordingDialogs& d, std::ostream& out)
+void report(const Program& p, const PolicyDialogs& d, std::ostream& out)
 {
     const auto& f = p.Form1;
     out << "Pilarix - pilar " << f.Text1.Text << " x " << f.Text2.Text << " cm, comprimento " << f.Text23.Text
@@ -159,12 +158,12 @@ void report(const Program& p, const RecordingDialogs& d, std::ostream& out)
         << " kg\n";
     out << "Estribo: " << f.Text27.Text << "; cobrimento nominal " << f.Text25.Text << " cm, efetivo "
         << f.Text26.Text << " cm\n";
-    for (const auto& m : d.messages) {
-        out << "[" << m.value("janela", "") << "] " << m.value("mensagem", "");
-        if (m.contains("item") && !m["item"].get<std::string>().empty())
-            out << " (" << m["item"].get<std::string>() << ")";
-        if (m.contains("resposta"))
-            out << " -> resposta " << m["resposta"].dump();
+    for (const auto& m : d.records) {
+        out << "[" << m.janela << "] " << m.mensagem;
+        if (!m.item.empty())
+            out << " (" << m.item << ")";
+        if (m.kind == DialogRecord::Kind::Cover || m.kind == DialogRecord::Kind::Stirrup)
+            out << " -> resposta " << m.resposta;
         out << "\n";
     }
     out << "Erros: " << f.Text30.Text << "\n";
@@ -347,13 +346,39 @@ nlohmann::ordered_json estadoJson(const Program& p)
     return j;
 }
 
-nlohmann::ordered_json documentJson(const Program& program, const RecordingDialogs& dialogs, bool melhor)
+nlohmann::ordered_json mensagensJson(const std::vector<DialogRecord>& records)
+{
+    nlohmann::ordered_json out = nlohmann::ordered_json::array();
+    for (const auto& r : records) {
+        switch (r.kind) {
+        case DialogRecord::Kind::Error:
+            out.push_back({{"janela", r.janela}, {"mensagem", r.mensagem}, {"item", r.item}});
+            break;
+        case DialogRecord::Kind::Cover:
+            out.push_back({{"janela", r.janela},
+                           {"mensagem", r.mensagem},
+                           {"item", r.item},
+                           {"botao1", r.botao1},
+                           {"resposta", r.resposta}});
+            break;
+        case DialogRecord::Kind::Stirrup:
+            out.push_back({{"janela", r.janela}, {"mensagem", r.mensagem}, {"opcoes", r.opcoes}, {"resposta", r.resposta}});
+            break;
+        case DialogRecord::Kind::Notice:
+            out.push_back({{"janela", r.janela}, {"mensagem", r.mensagem}});
+            break;
+        }
+    }
+    return out;
+}
+
+nlohmann::ordered_json documentJson(const Program& program, const PolicyDialogs& dialogs, bool melhor)
 {
     nlohmann::ordered_json doc;
     doc["Erros"] = program.Form1.Text30.Text;
     doc["caixas"] = caixasJson(program);
     doc["estado"] = estadoJson(program);
-    doc["mensagens"] = dialogs.messages;
+    doc["mensagens"] = mensagensJson(dialogs.records);
     if (melhor) {
         nlohmann::ordered_json rows = nlohmann::ordered_json::array();
         for (const auto& s : program.Ordenadas)
@@ -377,7 +402,7 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
         return 2;
     }
 
-    RecordingDialogs dialogs;
+    PolicyDialogs dialogs;
     dialogs.coverAnswer = o.cobrimento;
     dialogs.stirrupOption = o.estribo;
     Program program(dialogs);
@@ -390,7 +415,7 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
         return 2;
     }
     // Messages of the loading belong to the loading, not to the run.
-    dialogs.messages = nlohmann::ordered_json::array();
+    dialogs.records.clear();
 
     for (const auto& [name, value] : o.sets) {
         if (!setControlByName(program, name, value, error)) {

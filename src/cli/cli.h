@@ -2,7 +2,7 @@
 // pilarix-cli: the calculation of the main window without a screen, for scripts,
 // tests and comparisons. It drives the same Program through the same form model.
 
-#include "cli/recording_dialogs.h"
+#include "window/policy_dialogs.h"
 #include "window/program.h"
 
 #include <nlohmann/json.hpp>
@@ -21,7 +21,10 @@ nlohmann::ordered_json estadoJson(const Program& program);
 
 // The whole document of --json: "Erros", "caixas", "estado", the messages the
 // dialogs recorded and, after a search, "solucoes".
-nlohmann::ordered_json documentJson(const Program& program, const RecordingDialogs& dialogs, bool melhor);
+nlohmann::ordered_json documentJson(const Program& program, const PolicyDialogs& dialogs, bool melhor);
+
+// Every dialog of the run, in order, as the "mensagens" of --json.
+nlohmann::ordered_json mensagensJson(const std::vector<DialogRecord>& records);
 
 // The text of every text box of the main window, keyed by control name.
 nlohmann::ordered_json caixasJson(const Program& program);

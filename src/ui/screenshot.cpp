@@ -1,6 +1,7 @@
 #include "ui/screenshot.h"
 
 #include "ui/main_window.h"
+#include "window/policy_dialogs.h"
 
 #include <QApplication>
 #include <QPixmap>
@@ -10,39 +11,24 @@
 namespace pilarix::ui {
 
 namespace {
-
-// Every question gets its first answer; nothing waits for a user.
-class RespostasAutomaticas : public DialogPort {
-public:
-    void showError(const Form2Model& form) override
-    {
-        std::cerr << form.Caption << ": " << form.Label1.Caption;
-        if (!form.Label2.Caption.empty())
-            std::cerr << " (" << form.Label2.Caption << ")";
+// What the calculation told and asked, for the one who took the picture.
+void contaOsDialogos(const PolicyDialogs& d)
+{
+    for (const auto& r : d.records) {
+        std::cerr << r.janela << ": " << r.mensagem;
+        if (r.kind == DialogRecord::Kind::Cover)
+            std::cerr << " -> " << r.botao1;
+        else if (!r.item.empty())
+            std::cerr << " (" << r.item << ")";
         std::cerr << "\n";
     }
-    int askCover(const Form4Model& form) override
-    {
-        std::cerr << form.Caption << ": " << form.Label2.Caption << " -> " << form.Command2.Caption << "\n";
-        return 1;
-    }
-    void chooseStirrup(Form7Model& form) override
-    {
-        for (auto& o : form.Option1)
-            o.Value = false;
-        form.Option1[4].Value = true;
-    }
-    void notice(const std::string& text) override { std::cerr << text << "\n"; }
-    void beep() override {}
-    std::string askOpenFileName() override { return {}; }
-    std::string askSaveFileName() override { return {}; }
-};
-
+}
 } // namespace
 
 int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto)
 {
-    RespostasAutomaticas respostas;
+    // Every question gets its first answer; nothing waits for a user.
+    PolicyDialogs respostas;
     MainWindow janela(&respostas);
     janela.inicia();
     if (!projeto.isEmpty()) {
@@ -52,11 +38,14 @@ int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto)
             p.ErroArquivo.clear();
             p.Carrega33();
         });
-        // The reason has gone to standard error with the other messages.
-        if (!p.ErroArquivo.empty())
+        // The reason goes to standard error with the other messages.
+        if (!p.ErroArquivo.empty()) {
+            contaOsDialogos(respostas);
             return 2;
+        }
     }
     janela.executa([&] { janela.program().Command1_Click(); });
+    contaOsDialogos(respostas);
     janela.show();
     QApplication::processEvents();
     janela.adjustSize();

@@ -35,25 +35,4 @@ public:
     virtual std::string askSaveFileName() = 0;
 };
 
-// Answers by policy and remembers nothing: for benchmarks and for runs that only
-// need the numbers.
-class SilentDialogs : public DialogPort {
-public:
-    int coverAnswer = 1;
-    int stirrupOption = 4;
-
-    void showError(const Form2Model&) override {}
-    int askCover(const Form4Model&) override { return coverAnswer; }
-    void chooseStirrup(Form7Model& form) override
-    {
-        for (auto& o : form.Option1)
-            o.Value = false;
-        form.Option1[static_cast<std::size_t>(stirrupOption)].Value = true;
-    }
-    void notice(const std::string&) override {}
-    void beep() override {}
-    std::string askOpenFileName() override { return {}; }
-    std::string askSaveFileName() override { return {}; }
-};
-
 } // namespace pilarix

@@ -1,7 +1,7 @@
 // Project files and "Padrão.txt": what is written, what is read back, and files
 // that cannot be read, which must leave the window as it was.
 
-#include "cli/recording_dialogs.h"
+#include "window/policy_dialogs.h"
 #include "window/program.h"
 
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 namespace {
 
 struct Fixture {
-    RecordingDialogs dialogs;
+    PolicyDialogs dialogs;
     Program p{dialogs};
 };
 
@@ -206,8 +206,8 @@ TEST(ProjectFile, AFileThatCannotBeReadIsToldAndLeavesTheWindowAsItWas)
         for (const auto& piece : r.told)
             EXPECT_NE(erro.find(piece), std::string::npos) << r.name << ": " << erro;
         EXPECT_NE(erro.find("\"" + r.path + "\""), std::string::npos) << r.name;
-        ASSERT_EQ(f.dialogs.messages.size(), 1u) << r.name;
-        EXPECT_EQ(f.dialogs.messages[0]["mensagem"], erro);
+        ASSERT_EQ(f.dialogs.records.size(), 1u) << r.name;
+        EXPECT_EQ(f.dialogs.records[0].mensagem, erro);
     }
 
     Fixture f;

@@ -2,7 +2,6 @@
 
 #include "cli/cli.h"
 #include "cli/controls_by_name.h"
-#include "cli/recording_dialogs.h"
 
 #include <cstdio>
 #include <map>
@@ -80,7 +79,7 @@ void act(Program& p, const std::string& action)
 
 std::string runSession(const std::string& payload)
 {
-    RecordingDialogs dialogs;
+    PolicyDialogs dialogs;
     Program p(dialogs);
     std::string shown;
     for (const auto& step : split(payload, '\t')) {
@@ -94,7 +93,7 @@ std::string runSession(const std::string& payload)
         }
         act(p, parts[0]);
         shown += documentJson(p, dialogs, true).dump(1) + "\n";
-        dialogs.messages = nlohmann::ordered_json::array();
+        dialogs.records.clear();
     }
     return shown;
 }

@@ -1,7 +1,7 @@
 // Keystroke filters of the main window, per group of controls: what a user can type
 // into each box, what is thrown away, and the beep of the bar list.
 
-#include "cli/recording_dialogs.h"
+#include "window/policy_dialogs.h"
 #include "ui/key_filters.h"
 #include "ui/main_window.h"
 
@@ -41,7 +41,7 @@ TEST(UiKeyFilterRules, EachGroupAcceptsItsOwnCharacters)
 
 namespace {
 struct Janela {
-    RecordingDialogs dialogs;
+    PolicyDialogs dialogs;
     ui::MainWindow w{&dialogs};
     QLineEdit* caixa(const char* nome) { return w.findChild<QLineEdit*>(QString::fromUtf8(nome)); }
 };

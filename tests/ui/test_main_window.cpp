@@ -5,7 +5,7 @@
 #include "ui_support.h"
 
 #include "cli/controls_by_name.h"
-#include "cli/recording_dialogs.h"
+#include "window/policy_dialogs.h"
 #include "base/number_text.h"
 #include "ui/main_window.h"
 #include "ui/section_view.h"
@@ -40,7 +40,7 @@ namespace {
 
 // The window over a recording port: questions answered by policy, messages kept.
 struct Janela {
-    RecordingDialogs dialogs;
+    PolicyDialogs dialogs;
     ui::MainWindow w{&dialogs};
     Program& p = w.program();
 
@@ -96,7 +96,7 @@ TEST(UiCalcula, ClickShowsInEveryBoxWhatTheCalculationLeftThere)
 
     // The same input through the program alone gives the same boxes: the window
     // neither loses nor alters a value on the way in or out.
-    RecordingDialogs d;
+    PolicyDialogs d;
     Program sozinho(d);
     sozinho.Form1.Text3.Text = "4";
     sozinho.Command1_Click();
@@ -141,8 +141,8 @@ TEST(UiCalcula, AnInputErrorEmptiesTheResultsAndPaintsErrosRed)
     ASSERT_EQ(j.texto("Text30"), "Ok");
     j.digita("Text18", "0");
     j.clica("Command1");
-    ASSERT_FALSE(j.dialogs.messages.empty());
-    EXPECT_EQ(j.dialogs.messages.back()["mensagem"], "Fck deve ser diferente de zero");
+    ASSERT_FALSE(j.dialogs.records.empty());
+    EXPECT_EQ(j.dialogs.records.back().mensagem, "Fck deve ser diferente de zero");
     EXPECT_EQ(j.texto("Text30"), "erro");
     EXPECT_EQ(fundo(j.caixa("Text30")), QColor(255, 0, 0));
     for (const char* nome : {"Text9", "Text10", "Text11", "Text12", "Text13", "Text14", "Text19", "Text25", "Text26",
@@ -328,19 +328,10 @@ TEST(UiSolucoes, SearchThenStepThroughTheSolutionsAndChooseFromTheList)
 
 // ---- files through the menus ----
 
-namespace {
-// A recording port whose file dialogs answer with a chosen path.
-struct DialogosDeArquivo : RecordingDialogs {
-    std::string abrir, salvar;
-    std::string askOpenFileName() override { return abrir; }
-    std::string askSaveFileName() override { return salvar; }
-};
-} // namespace
-
 TEST(UiArquivos, SaveAsThenOpenGivesBackEveryChangedControl)
 {
     PastaTemporaria pasta;
-    DialogosDeArquivo d;
+    PolicyDialogs d;
     ui::MainWindow w(&d);
     auto caixa = [&](const char* n) { return w.findChild<QLineEdit*>(QString::fromUtf8(n)); };
     caixa("Text3")->setText(QStringLiteral("4"));
@@ -348,16 +339,16 @@ TEST(UiArquivos, SaveAsThenOpenGivesBackEveryChangedControl)
     w.findChild<QComboBox*>(QStringLiteral("Combo1"))->setCurrentText(QStringLiteral("Aço CA-60A"));
     w.findChild<QRadioButton*>(QStringLiteral("Option5"))->setChecked(true);
     w.findChild<QCheckBox*>(QStringLiteral("Check1"))->setChecked(true);
-    d.salvar = pasta.caminho("projeto.TXT");
+    d.saveFileName = pasta.caminho("projeto.TXT");
     w.findChild<QAction*>(QStringLiteral("mnuItemSave"))->trigger();
-    ASSERT_TRUE(std::filesystem::exists(d.salvar));
+    ASSERT_TRUE(std::filesystem::exists(d.saveFileName));
 
     caixa("Text23")->setText(QStringLiteral("300"));
     w.findChild<QComboBox*>(QStringLiteral("Combo1"))->setCurrentText(QStringLiteral("Aço CA-50A"));
     w.findChild<QRadioButton*>(QStringLiteral("Option3"))->setChecked(true);
     w.findChild<QCheckBox*>(QStringLiteral("Check1"))->setChecked(false);
 
-    d.abrir = d.salvar;
+    d.openFileName = d.saveFileName;
     w.findChild<QAction*>(QStringLiteral("mnuItemload"))->trigger();
     EXPECT_EQ(caixa("Text23")->text(), QStringLiteral("450"));
     EXPECT_EQ(w.findChild<QComboBox*>(QStringLiteral("Combo1"))->currentText(), QStringLiteral("Aço CA-60A"));
@@ -370,7 +361,7 @@ TEST(UiArquivos, SaveAsThenOpenGivesBackEveryChangedControl)
 TEST(UiArquivos, CancelledOpenStillRecalculatesTheWindowAsItStands)
 {
     PastaTemporaria pasta;
-    DialogosDeArquivo d; // both dialogs cancelled
+    PolicyDialogs d; // both dialogs cancelled
     ui::MainWindow w(&d);
     w.findChild<QLineEdit*>(QStringLiteral("Text3"))->setText(QStringLiteral("4"));
     w.findChild<QLineEdit*>(QStringLiteral("Text23"))->setText(QStringLiteral("450"));

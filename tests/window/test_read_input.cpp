@@ -1,6 +1,6 @@
 // Reading the main window: units, corrections of the boxes and the fck messages.
 
-#include "cli/recording_dialogs.h"
+#include "window/policy_dialogs.h"
 #include "window/program.h"
 
 #include <gtest/gtest.h>
@@ -13,13 +13,13 @@ using namespace pilarix;
 namespace {
 
 struct Fixture {
-    RecordingDialogs dialogs;
+    PolicyDialogs dialogs;
     Program p{dialogs};
 };
 
-std::string message(const RecordingDialogs& d, std::size_t i)
+std::string message(const PolicyDialogs& d, std::size_t i)
 {
-    return d.messages.at(i).at("mensagem").get<std::string>();
+    return d.records.at(i).mensagem;
 }
 
 } // namespace
@@ -81,7 +81,7 @@ TEST(Ler02, DefaultsReadIntoInternalUnits)
     EXPECT_EQ(f.p.IndiceEstriboMax, 4.0f);
     EXPECT_EQ(f.p.DiamAgregado, 0);
     EXPECT_EQ(f.p.MargemDesenho, 20);
-    EXPECT_TRUE(f.dialogs.messages.empty());
+    EXPECT_TRUE(f.dialogs.records.empty());
 }
 
 TEST(Ler02, CorrectsTheBoxesAsTheUserSeesThem)
@@ -143,11 +143,11 @@ TEST(Ler02, FckMessages)
         f.p.Form1.Text18.Text = r.fck;
         f.p.Form1.Combo6.Text = r.unit;
         f.p.Ler02();
-        ASSERT_EQ(f.dialogs.messages.size(), r.messages.size()) << r.fck;
+        ASSERT_EQ(f.dialogs.records.size(), r.messages.size()) << r.fck;
         for (std::size_t i = 0; i < r.messages.size(); ++i) {
             EXPECT_EQ(message(f.dialogs, i), r.messages[i]);
-            EXPECT_EQ(f.dialogs.messages[i]["item"], item);
-            EXPECT_EQ(f.dialogs.messages[i]["janela"], "Mensagem de erro");
+            EXPECT_EQ(f.dialogs.records[i].item, item);
+            EXPECT_EQ(f.dialogs.records[i].janela, "Mensagem de erro");
         }
         EXPECT_EQ(f.p.ErroEntrada, r.erroEntrada) << r.fck;
         EXPECT_EQ(f.p.Es, 2100000) << "reading goes on after an fck warning";
@@ -160,7 +160,7 @@ TEST(Ler02, FckWarningsAreNotRepeatedOnARecalculation)
     f.p.metodo.Recalcula = engine::Recalculation::Yes;
     f.p.Form1.Text18.Text = "19";
     f.p.Ler02();
-    EXPECT_TRUE(f.dialogs.messages.empty());
+    EXPECT_TRUE(f.dialogs.records.empty());
 }
 
 TEST(Ler02, ZeroFckStopsTheReading)
@@ -169,9 +169,9 @@ TEST(Ler02, ZeroFckStopsTheReading)
     f.p.Es = 123;
     f.p.Form1.Text18.Text = "0";
     f.p.Ler02();
-    ASSERT_EQ(f.dialogs.messages.size(), 1u);
+    ASSERT_EQ(f.dialogs.records.size(), 1u);
     EXPECT_EQ(message(f.dialogs, 0), "Fck deve ser diferente de zero");
-    EXPECT_EQ(f.dialogs.messages[0]["item"], "");
+    EXPECT_EQ(f.dialogs.records[0].item, "");
     EXPECT_EQ(f.p.ErroEntrada, "s");
     EXPECT_EQ(f.p.Es, 123) << "Es is not read after a zero fck";
 }
@@ -193,7 +193,7 @@ TEST(Ler02, ZeroDivisorsOfTheDesignAreInputErrors)
         else
             w.Text22.Text = "abc";
         f.p.Ler02();
-        ASSERT_EQ(f.dialogs.messages.size(), 1u) << r.control;
+        ASSERT_EQ(f.dialogs.records.size(), 1u) << r.control;
         EXPECT_EQ(message(f.dialogs, 0).rfind(r.start, 0), 0u) << message(f.dialogs, 0);
         EXPECT_NE(message(f.dialogs, 0).find("deve ser diferente de zero"), std::string::npos);
         EXPECT_EQ(f.p.ErroEntrada, "s");

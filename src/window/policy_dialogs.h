@@ -1,0 +1,46 @@
+#pragma once
+// The dialogs of a run without a screen: each question gets the answer of a policy
+// chosen beforehand (the command line's --cobrimento and --estribo, a test's fixed
+// answers, the screenshot's first answers), and every dialog is kept, in order, with
+// what it showed and the answer it got.
+
+#include "window/dialog_port.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace pilarix {
+
+struct DialogRecord {
+    enum class Kind { Error, Cover, Stirrup, Notice };
+    Kind kind = Kind::Notice;
+    std::string janela;   // the dialog's caption ("aviso" for a notice)
+    std::string mensagem; // the text it showed
+    std::string item;     // the clause of the standard (error and cover dialogs)
+    std::string botao1;   // the first button of the cover dialog
+    std::vector<std::string> opcoes; // the options of the stirrup choice
+    int resposta = 0;     // the answer given (cover and stirrup choice)
+};
+
+class PolicyDialogs : public DialogPort {
+public:
+    int coverAnswer = 1;   // 1: the first button, 2: "&2 - Ignorar"
+    int stirrupOption = 4; // element of Option1 chosen in "Escolha dos estribos"
+    std::string openFileName, saveFileName; // empty: the file dialogs are cancelled
+    std::vector<DialogRecord> records;
+    int beeps = 0;
+
+    void showError(const Form2Model& form) override;
+    int askCover(const Form4Model& form) override;
+    void chooseStirrup(Form7Model& form) override;
+    void notice(const std::string& text) override;
+    void beep() override { ++beeps; }
+    std::string askOpenFileName() override { return openFileName; }
+    std::string askSaveFileName() override { return saveFileName; }
+
+    // The text of the last dialog shown; empty when none was.
+    std::string lastMessage() const { return records.empty() ? std::string() : records.back().mensagem; }
+};
+
+} // namespace pilarix
