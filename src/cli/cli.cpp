@@ -10,23 +10,6 @@ namespace pilarix {
 
 namespace {
 // The program's one-letter flags, as it has always listed them.
-const char* letraDaZona(engine::Zone z)
-{
-    switch (z) {
-    case engine::Zone::E:
-        return "E";
-    case engine::Zone::C:
-        return "C";
-    case engine::Zone::A:
-        return "A";
-    case engine::Zone::O:
-        return "O";
-    case engine::Zone::None:
-        break;
-    }
-    return "";
-}
-
 const char* textoDoErro(engine::ErrorFlag f)
 {
     switch (f) {
@@ -148,7 +131,7 @@ void report(const Program& p, const PolicyDialogs& d, std::ostream& out)
         << " cm\n";
     out << "Nd = " << f.Text16.Text << " " << f.Combo4.Text << ", Md = " << f.Text17.Text << " " << f.Combo5.Text
         << ", fck = " << f.Text18.Text << " " << f.Combo6.Text << ", " << f.Combo1.Text << "\n";
-    out << "Zona: " << f.Text8.Text << " (" << letraDaZona(p.metodo.Zona) << "), Bx = " << f.Text28.Text
+    out << "Zona: " << f.Text8.Text << " (" << engine::zoneLetter(p.metodo.Zona) << "), Bx = " << f.Text28.Text
         << ", altura da L.N. = " << f.Text29.Text << " cm\n";
     out << "Área de aço (cm2): mínima " << f.Text9.Text << ", teórica " << f.Text10.Text << ", efetiva "
         << f.Text11.Text << "\n";
@@ -243,7 +226,7 @@ nlohmann::ordered_json estadoJson(const Program& p)
     j["EtaC2"] = m.EtaC2;
     j["KapaC2"] = m.KapaC2;
     j["LambdaC2"] = m.LambdaC2;
-    j["Zona"] = letraDaZona(m.Zona);
+    j["Zona"] = engine::zoneLetter(m.Zona);
     j["NZona"] = static_cast<std::int16_t>(m.Zona);
     j["BetaX"] = m.BetaX;
     j["EpsC"] = m.EpsC;

@@ -28,6 +28,24 @@ enum class Recalculation : std::uint8_t { Unset, No, Yes };
 // The solicitation zones, numbered as the method numbers them.
 enum class Zone : std::uint8_t { None = 0, E = 1, C = 2, A = 3, O = 4 };
 
+// "E", "C", "A", "O"; empty before any zone was found.
+inline const char* zoneLetter(Zone z)
+{
+    switch (z) {
+    case Zone::E:
+        return "E";
+    case Zone::C:
+        return "C";
+    case Zone::A:
+        return "A";
+    case Zone::O:
+        return "O";
+    case Zone::None:
+        break;
+    }
+    return "";
+}
+
 // A bar of a face: held by a supplementary stirrup, explicitly not, or never marked.
 enum class TieFlag : std::uint8_t { Unset, Tie, NoTie };
 
