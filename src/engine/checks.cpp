@@ -14,6 +14,7 @@ constexpr std::string_view kItemSpacing = "Item 18.4.2.2 do Projeto de revisão 
 constexpr std::string_view kItemAggregate = "Item 7.4.7.6 do Projeto de revisão da NB1 / 2001";
 constexpr std::string_view kItemCover = "Item 7.4.7 ";
 constexpr std::string_view kItemBarCover = "Item 7.4.7.5";
+constexpr std::string_view kItemUltimateStrains = "Item 17.2.2 do Projeto de revisão da NB1 / 2001";
 
 Check make(CheckId id, std::string text) { return {id, std::move(text), clauseOf(id), true}; }
 } // namespace
@@ -39,6 +40,9 @@ std::string_view clauseOf(CheckId id)
         return kItemSpacing;
     case CheckId::CoverAggregate:
         return kItemAggregate;
+    case CheckId::AreaByStrainCompatibility:
+    case CheckId::BeyondAnyArrangement:
+        return kItemUltimateStrains;
     case CheckId::CoverBelowNominal:
         return kItemCover;
     case CheckId::CoverBelowBarDiameter:
@@ -141,6 +145,24 @@ Check axisSpacing(bool widthFaces, double spacing, std::string_view limit, doubl
                 std::string(widthFaces ? "Espaçamento entre eixos das barras horizontais = "
                                        : "Espaçamento entre eixos das barras verticais = ")
                     + Str(r2(spacing)) + "cm maior que " + std::string(limit) + " = " + Str(r2(maximum)) + "cm");
+}
+
+Check areaByStrainCompatibility(double nu, double mu, double area)
+{
+    return make(CheckId::AreaByStrainCompatibility,
+                "O método das zonas de solicitação não encontrou o equilíbrio da seção para estes esforços (ν = "
+                    + Format(nu, "##0.000") + ", μ = " + Format(mu, "##0.000")
+                    + "). A armadura necessária foi calculada pela compatibilidade de deformações da seção: As = "
+                    + Format(area, "##0.00") + " cm2.");
+}
+
+// 1 kN is 100 kgf and 1 kN.m is 10000 kgf.cm, as everywhere in the program.
+Check beyondAnyArrangement(double nSd, double mSd)
+{
+    return make(CheckId::BeyondAnyArrangement,
+                "Os esforços de cálculo (Nd = " + Format(nSd / 100, "##0.0") + " kN, Md = " + Format(mSd / 10000, "##0.00")
+                    + " kN.m, já multiplicados por γn) excedem o que esta seção resiste com qualquer armadura: "
+                      "nem uma área de aço igual à da seção de concreto os equilibra. Aumente a seção.");
 }
 
 Check coverAggregate(double nominalCover, double aggregate)

@@ -33,6 +33,9 @@ enum class CheckId {
     FreeSpacingDepth,
     AxisSpacingWidth,
     AxisSpacingDepth,
+    // the design by strain compatibility where the zones method finds no equilibrium
+    AreaByStrainCompatibility,
+    BeyondAnyArrangement,
     // cover (questions)
     CoverAggregate,
     CoverBelowNominal,
@@ -66,6 +69,10 @@ Check predefinedStirrupTooThin(double minimumDiameter);
 // `limit` is the text naming the governing limit (see the limit texts below).
 Check freeSpacing(bool widthFaces, double spacing, std::string_view limit, double minimum);
 Check axisSpacing(bool widthFaces, double spacing, std::string_view limit, double maximum);
+// ν and μ reduced as the zones method reduces them; As in cm².
+Check areaByStrainCompatibility(double nu, double mu, double area);
+// NSd in kgf and MSd in kgf·cm, γn included.
+Check beyondAnyArrangement(double nSd, double mSd);
 Check coverAggregate(double nominalCover, double aggregate);
 Check coverBelowNominal(double effectiveCover, double nominalCover);
 Check coverBelowBarDiameter(double barCover, double barDiameter);

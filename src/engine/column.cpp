@@ -10,6 +10,7 @@
 #include "engine/catalogue.h"
 #include "engine/cover.h"
 #include "engine/failure.h"
+#include "engine/interaction.h"
 #include "engine/spacing.h"
 #include "engine/steel_limits.h"
 #include "engine/stirrups.h"
@@ -60,6 +61,7 @@ private:
     }
     void fail(ColumnResult& r, Check c);
     bool designPass(ColumnResult& r);
+    void areaByStrainCompatibility(ColumnResult& r, bool zoneFound);
     void chooseBar(ColumnResult& r);
     void chooseStirrup(ColumnResult& r);
     void chooseStirrupByMode(ColumnResult& r);
@@ -174,15 +176,21 @@ bool Passes::designPass(ColumnResult& r)
     check("SConstZ10");
     method_.zoneBoundMoments();
     check("SMiACEC13");
-    method_.concreteOnlyMoment();
-    check("SMiZero14");
-    method_.classifyZone();
-    check("Szona15");
-    if (s.Ni == 0 && s.Mi == 0) {
-        s.Rho = 0;
-    } else {
-        method_.reinforcementRatio();
-        check("SRO16");
+    bool zoneFound = false;
+    try {
+        method_.concreteOnlyMoment();
+        check("SMiZero14");
+        method_.classifyZone();
+        zoneFound = true;
+        check("Szona15");
+        if (s.Ni == 0 && s.Mi == 0) {
+            s.Rho = 0;
+        } else {
+            method_.reinforcementRatio();
+            check("SRO16");
+        }
+    } catch (const MarchFailure&) {
+        areaByStrainCompatibility(r, zoneFound);
     }
 
     s.AsNec = s.Ac * s.Rho;
@@ -194,6 +202,43 @@ bool Passes::designPass(ColumnResult& r)
     check("Programa0 (área por barra)");
     r.designed = true;
     return true;
+}
+
+// Where a march of the zones method cannot find the equilibrium of the section (a
+// start field already past its root: zone E with a large δ, a low-yield steel), the
+// required area is the one strain compatibility finds for the same layout, and the
+// calculation goes on with it. Where not even a steel area equal to the concrete's
+// carries the forces, no arrangement does, and the calculation stops there.
+void Passes::areaByStrainCompatibility(ColumnResult& r, bool zoneFound)
+{
+    const double nSd = in_.Nd * s.GamaN;
+    const double mSd = in_.Md * s.GamaN;
+    const ReinforcedSection layout =
+        rectangularColumn(in_.base, in_.depth, s.dLinha, in_.barsOnWidthFace, in_.barsOnDepthFace, 1.0,
+                          designConcrete(in_.fck, in_.gammaC), steel_);
+    const std::optional<double> area = requiredSteelArea(layout, nSd, mSd);
+    if (!area)
+        throw CalcError(checks::beyondAnyArrangement(nSd, mSd).text);
+    s.Rho = *area / s.Ac;
+    // The field of the equilibrium: the neutral axis of the ultimate plane the point
+    // reaches, as a fraction of h (a fully shortened section as the method writes it).
+    const Utilisation u = utilisation(withSteelArea(layout, *area), nSd, mSd);
+    if (u.plane && u.plane->top != u.plane->bottom)
+        s.BetaX = u.plane->top / (u.plane->top - u.plane->bottom);
+    else
+        s.BetaX = 10000;
+    if (!zoneFound)
+        s.Zona = Zone::None;
+    if (!silent()) {
+        r.checks.push_back(checks::areaByStrainCompatibility(s.Ni, s.Mi, *area));
+        const Check& c = r.checks.back();
+        s.MensagemErro = c.text;
+        s.ItemNorma = std::string(c.clause);
+        questions_->tell(c);
+    }
+    r.byStrainCompatibility = true;
+    // The march's faults, if it had any, are behind: the area is the new one's.
+    startFloatingPointWatch();
 }
 
 // The thinnest allowed bar for the area required per bar, then the 1/8 rule.

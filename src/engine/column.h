@@ -135,6 +135,8 @@ struct ColumnResult {
     // Every check that failed, in the order they failed, and the questions asked.
     std::vector<Check> checks;
     int passes = 0;
+    // The zones method found no equilibrium: the required area is strain compatibility's.
+    bool byStrainCompatibility = false;
     // d' as the cover correction rewrote it in the typed box, when it did.
     std::optional<std::string> dLinhaText;
     // Set when the calculation could not go on; the message names the stage.

@@ -6,9 +6,19 @@
 // (ColumnResult::failure) and the window shows it. The stages keep the names the
 // method gives them, so that a message can be traced to its routine.
 
+#include "base/calc_error.h"
+
 #include <string>
 
 namespace pilarix::engine {
+
+// A march of the design that cannot meet its tolerance (its step no longer moves
+// the variable, or it passes its cap). The calculation takes the area that strain
+// compatibility needs instead and goes on.
+class MarchFailure : public CalcError {
+public:
+    using CalcError::CalcError;
+};
 
 // The values that identify a calculation, for a message about one that failed.
 struct ColumnSummary {

@@ -36,8 +36,9 @@ void checkSection(const ReinforcedSection& s)
     for (std::size_t i = 0; i < s.rows.size(); ++i) {
         const BarRow& r = s.rows[i];
         const std::string row = "a camada " + std::to_string(i + 1);
-        if (!std::isfinite(r.depth) || r.depth <= 0 || r.depth >= s.depth)
-            invalid(row + " deve ficar dentro da seção, 0 < y < h (y = " + Str(r.depth) + ", h = " + Str(s.depth) + ")");
+        // A row on a face (d' = 0, as before the cover has set it) is still a section.
+        if (!std::isfinite(r.depth) || r.depth < 0 || r.depth > s.depth)
+            invalid(row + " deve ficar dentro da seção, 0 ≤ y ≤ h (y = " + Str(r.depth) + ", h = " + Str(s.depth) + ")");
         if (!std::isfinite(r.area) || r.area < 0)
             invalid(row + " deve ter área positiva ou nula (As = " + Str(r.area) + ")");
     }
@@ -50,7 +51,7 @@ ReinforcedSection rectangularColumn(double b, double h, double dLinha, double nB
         invalid("a largura b deve ser positiva (b = " + Str(b) + ")");
     if (!positive(h))
         invalid("a altura h deve ser positiva (h = " + Str(h) + ")");
-    if (!positive(dLinha) || dLinha >= h / 2)
+    if (!std::isfinite(dLinha) || dLinha < 0 || dLinha >= h / 2)
         invalid("d' deve ficar entre 0 e h/2 (d' = " + Str(dLinha) + ", h = " + Str(h) + ")");
     if (!std::isfinite(nBase) || nBase != std::floor(nBase) || nBase < 2 || nBase > kMaxBarsOnWidthFace)
         invalid("o número de barras na base deve ser inteiro, de 2 a 500 (" + Str(nBase) + ")");

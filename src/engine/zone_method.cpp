@@ -42,7 +42,7 @@ public:
     bool advance()
     {
         if (++steps_ > kMarchCap)
-            throw CalcError(std::string("A busca de ") + stage_ + " não convergiu em " + std::to_string(kMarchCap)
+            throw MarchFailure(std::string("A busca de ") + stage_ + " não convergiu em " + std::to_string(kMarchCap)
                             + " passos (ν = " + Str(s_.Ni) + ", μ = " + Str(s_.Mi) + ", precisão = " + Str(m_.P)
                             + "). Verifique a precisão em Valores > Outros.");
         if (std::fabs(s_.Resid) <= m_.P)
@@ -50,7 +50,7 @@ public:
         const double before = *x_;
         *x_ = *x_ + s_.Passo;
         if (before == *x_)
-            throw CalcError(std::string("A busca de ") + stage_
+            throw MarchFailure(std::string("A busca de ") + stage_
                             + " não encontrou o equilíbrio da seção: o passo ficou menor que a resolução dos números"
                             + " (ν = " + Str(s_.Ni) + ", μ = " + Str(s_.Mi) + ", δ = " + Str(s_.Delta)
                             + ", precisão = " + Str(m_.P) + ").");

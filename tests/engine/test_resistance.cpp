@@ -67,14 +67,14 @@ TEST(EngineResistance, BadDataIsAMessage)
     const Steel a = steel(SteelGrade::CA50A);
     const double nan = std::numeric_limits<double>::quiet_NaN();
     ReinforcedSection outside = handSection();
-    outside.rows[1].depth = 50;
+    outside.rows[1].depth = 50.5;
     for (const auto& [name, call] : std::vector<std::pair<const char*, std::function<void()>>>{
              {"b zero", [&] { rectangularColumn(0, 50, 4, 2, 2, 1.25, c, a); }},
              {"d' h/2", [&] { rectangularColumn(20, 50, 25, 2, 2, 1.25, c, a); }},
              {"nBase 2.5", [&] { rectangularColumn(20, 50, 4, 2.5, 2, 1.25, c, a); }},
              {"nAltura 1", [&] { rectangularColumn(20, 50, 4, 2, 1, 1.25, c, a); }},
              {"concreto sem fck", [&] { rectangularColumn(20, 50, 4, 2, 2, 1.25, Concrete{}, a); }},
-             {"camada na face", [&] { checkSection(outside); }},
+             {"camada fora da seção", [&] { checkSection(outside); }},
              {"plano NaN", [&] { planeForces(handSection(), {nan, 1}); }},
              {"N NaN", [&] { utilisation(handSection(), nan, 1); }},
              {"nada a escalar", [&] { requiredSteelArea({20, 50, c, a, {}}, -1000, 0); }}})
