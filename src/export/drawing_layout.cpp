@@ -94,7 +94,7 @@ double textAllowance(const std::string& utf8, double height)
     const auto chars = std::count_if(utf8.begin(), utf8.end(), [](char c) {
         return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
     });
-    return 0.6 * height * static_cast<double>(chars);
+    return 0.65 * height * static_cast<double>(chars);
 }
 
 Extent drawingExtent(const engine::SectionGeometry& g)

@@ -51,6 +51,11 @@ std::string saveFailure(const std::string& path, int errnum)
     case 0: reason = "erro de gravação"; break;
     default: reason = std::strerror(errnum); break;
     }
+    return saveFailure(path, reason);
+}
+
+std::string saveFailure(const std::string& path, const std::string& reason)
+{
     return "Não foi possível gravar o arquivo \"" + path + "\": " + reason + ".";
 }
 

@@ -14,6 +14,9 @@ int obstacleToSaving(const std::string& path);
 // "Não foi possível gravar o arquivo "<path>": <reason>." for an errno value.
 std::string saveFailure(const std::string& path, int errnum);
 
+// The same with the reason already in words.
+std::string saveFailure(const std::string& path, const std::string& reason);
+
 // The message for a path that is empty or names no file.
 std::string missingFileName();
 
