@@ -142,7 +142,7 @@ bool checkDrawable(const engine::SectionGeometry& g, std::string& error)
     for (const auto& l : g.ties)
         ok = ok && finite(l);
     for (const auto& bar : g.bars)
-        ok = ok && finite(bar.centre) && std::isfinite(bar.diameter) && bar.diameter >= 0;
+        ok = ok && finite(bar.centre) && std::isfinite(bar.diameter) && bar.diameter > 0;
     for (const auto& d : g.dimensions)
         ok = ok && finite(d.from) && finite(d.to) && std::isfinite(d.offset);
     for (const auto& l : g.labels)

@@ -52,8 +52,9 @@ inline constexpr double kTextDescent = 0.25;
 // its height).
 Extent drawingExtent(const engine::SectionGeometry& geometry);
 
-// Whether the geometry can be drawn: a section of positive size with every
-// coordinate a finite number. Otherwise false and the reason in Portuguese.
+// Whether the geometry can be drawn: a section of positive size, bars of positive
+// diameter, every coordinate a finite number. Otherwise false and the reason in
+// Portuguese.
 bool checkDrawable(const engine::SectionGeometry& geometry, std::string& error);
 
 } // namespace pilarix::exporting

@@ -404,7 +404,7 @@ bool writeDxf(const engine::SectionGeometry& g, const std::string& path, std::st
 {
     if (!checkDrawable(g, error))
         return false;
-    if (path.empty() || std::filesystem::path(path).filename().empty()) {
+    if (path.empty()) {
         error = missingFileName();
         return false;
     }

@@ -61,7 +61,7 @@ bool ready(const engine::SectionGeometry& g, const std::string& path, double sca
                 "iniciou.";
         return false;
     }
-    if (path.empty() || std::filesystem::path(path).filename().empty()) {
+    if (path.empty()) {
         error = exporting::missingFileName();
         return false;
     }
@@ -160,6 +160,10 @@ bool exportPng(const engine::SectionGeometry& g, const std::string& path, double
 
 bool exportDrawing(const engine::SectionGeometry& g, const std::string& path, double scale, std::string& error)
 {
+    if (path.empty()) {
+        error = exporting::missingFileName();
+        return false;
+    }
     const std::string suffix = suffixOf(path);
     if (suffix == ".dxf")
         return exporting::writeDxf(g, path, error);

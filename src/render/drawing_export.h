@@ -25,7 +25,7 @@
 namespace pilarix::render {
 
 inline constexpr int kExportMargin = 16;  // pixels
-inline constexpr int kMaxExportSide = 20000; // pixels: beyond it the scale is a mistake
+inline constexpr int kMaxExportSide = 10000; // pixels: beyond it the scale is a mistake
 
 // The size of the SVG and PNG by the rule above (a side past kMaxExportSide is
 // given as kMaxExportSide + 1).

@@ -27,15 +27,14 @@ const Palette kStale{QColor(185, 185, 185), QColor(200, 175, 175), QColor(185, 1
 // small or large, draws the same glyphs.
 constexpr int kReferencePixels = 100;
 
-const QFont& referenceFont()
+// Made for each text, not kept: a font must not outlive the application's font
+// cache, and QFont's own cache makes a new one cheap.
+QFont referenceFont()
 {
-    static const QFont font = [] {
-        QFont f(QStringLiteral("sans-serif")); // the generic name an SVG reader knows too
-        f.setStyleHint(QFont::SansSerif);
-        f.setPixelSize(kReferencePixels);
-        return f;
-    }();
-    return font;
+    QFont f(QStringLiteral("sans-serif")); // the generic name an SVG reader knows too
+    f.setStyleHint(QFont::SansSerif);
+    f.setPixelSize(kReferencePixels);
+    return f;
 }
 
 QPolygonF devicePolygon(const engine::Polyline& line, const DrawingView& v)
@@ -68,7 +67,8 @@ void drawText(QPainter& p, const DrawingView& v, engine::Point base, double degr
         return; // nothing a reader could see
     const QString text = QString::fromStdString(utf8);
     const double k = pixels / kReferencePixels;
-    const double width = QFontMetricsF(referenceFont()).horizontalAdvance(text) * k;
+    const QFont font = referenceFont();
+    const double width = QFontMetricsF(font).horizontalAdvance(text) * k;
     const double room = exporting::textAllowance(utf8, height) * v.scale;
     const double squeeze = width > room && width > 0 ? room / width : 1.0;
 
@@ -78,7 +78,7 @@ void drawText(QPainter& p, const DrawingView& v, engine::Point base, double degr
     if (centred)
         p.translate(-width * squeeze / 2, 0);
     p.scale(k * squeeze, k);
-    p.setFont(referenceFont());
+    p.setFont(font);
     p.drawText(QPointF(0, 0), text);
     p.restore();
 }

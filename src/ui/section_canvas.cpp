@@ -19,8 +19,6 @@ SectionCanvas::SectionCanvas(QWidget* parent)
     : QWidget(parent), placeholder_(QStringLiteral("A seção detalhada aparece aqui depois do cálculo."))
 {
     setAttribute(Qt::WA_OpaquePaintEvent); // the whole frame is painted white each time
-    setMouseTracking(false);
-    setFocusPolicy(Qt::WheelFocus);
     updateCursor();
 }
 
