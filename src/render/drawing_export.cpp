@@ -1,0 +1,178 @@
+#include "render/drawing_export.h"
+
+#include "base/number_text.h"
+#include "export/drawing_layout.h"
+#include "export/dxf_writer.h"
+#include "export/save_failure.h"
+#include "render/section_painter.h"
+
+#include <QBuffer>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QSaveFile>
+#include <QSvgGenerator>
+
+#include <algorithm>
+#include <cerrno>
+#include <cmath>
+#include <filesystem>
+
+namespace pilarix::render {
+
+namespace {
+
+// The size by the rule, in doubles: a mistaken scale must be caught before it
+// becomes an int.
+QSizeF exactSize(const engine::SectionGeometry& g, double scale)
+{
+    const exporting::Extent e = exporting::drawingExtent(g);
+    return {std::ceil(e.width() * scale) + 2 * kExportMargin, std::ceil(e.height() * scale) + 2 * kExportMargin};
+}
+
+std::string suffixOf(const std::string& path)
+{
+    std::string s = std::filesystem::path(path).extension().string();
+    for (char& c : s)
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c - 'A' + 'a');
+    return s;
+}
+
+// What stands before any drawing: something to draw, a sensible scale, fonts, and
+// a place to write.
+bool ready(const engine::SectionGeometry& g, const std::string& path, double scale, QSize& size, std::string& error)
+{
+    if (!exporting::checkDrawable(g, error))
+        return false;
+    if (!(std::isfinite(scale) && scale > 0)) {
+        error = "A escala do desenho deve ser um número positivo de pixels por centímetro.";
+        return false;
+    }
+    const QSizeF exact = exactSize(g, scale);
+    if (!(exact.width() <= kMaxExportSide && exact.height() <= kMaxExportSide)) {
+        error = "Na escala de " + Str(scale) + " pixels por centímetro o desenho passaria de "
+                + std::to_string(kMaxExportSide) + " pixels de lado; use uma escala menor.";
+        return false;
+    }
+    size = exportSize(g, scale);
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
+        error = "O desenho em SVG ou PNG precisa da parte gráfica do Qt (QGuiApplication), que o programa não "
+                "iniciou.";
+        return false;
+    }
+    if (path.empty()) {
+        error = exporting::missingFileName();
+        return false;
+    }
+    if (const int obstacle = exporting::obstacleToSaving(path)) {
+        error = exporting::saveFailure(path, obstacle);
+        return false;
+    }
+    return true;
+}
+
+// The whole file at once through QSaveFile: written beside, renamed into place.
+bool save(const QByteArray& bytes, const std::string& path, std::string& error)
+{
+    QSaveFile file(QString::fromStdString(path));
+    errno = 0;
+    const bool ok = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    if (ok)
+        return true;
+    const int errnum = errno;
+    switch (file.error()) {
+    case QFileDevice::PermissionsError: error = exporting::saveFailure(path, EACCES); break;
+    case QFileDevice::ResourceError: error = exporting::saveFailure(path, ENOSPC); break;
+    default:
+        error = errnum ? exporting::saveFailure(path, errnum)
+                       : exporting::saveFailure(path, "erro de gravação (" + file.errorString().toStdString() + ")");
+        break;
+    }
+    file.cancelWriting();
+    return false;
+}
+
+void paintOnSheet(QPainter& p, const engine::SectionGeometry& g, QSize size, double scale)
+{
+    p.fillRect(QRect(QPoint(0, 0), size), Qt::white);
+    paintSection(p, g, placedView(g, scale, kExportMargin));
+}
+
+} // namespace
+
+QSize exportSize(const engine::SectionGeometry& g, double scale)
+{
+    const QSizeF exact = exactSize(g, scale);
+    const auto side = [](double s) { return static_cast<int>(std::clamp(s, 0.0, double(kMaxExportSide) + 1)); };
+    return {side(exact.width()), side(exact.height())};
+}
+
+bool exportSvg(const engine::SectionGeometry& g, const std::string& path, double scale, std::string& error)
+{
+    QSize size;
+    if (!ready(g, path, scale, size, error))
+        return false;
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QSvgGenerator svg;
+    svg.setOutputDevice(&buffer);
+    svg.setSize(size);
+    svg.setViewBox(QRect(QPoint(0, 0), size));
+    svg.setResolution(96); // the CSS pixel: a browser shows the drawing at its pixel size
+    svg.setTitle(QStringLiteral("Seção do pilar"));
+    QPainter p;
+    if (!p.begin(&svg)) {
+        error = exporting::saveFailure(path, "o desenho em SVG não pôde ser gerado");
+        return false;
+    }
+    paintOnSheet(p, g, size, scale);
+    p.end();
+    return save(buffer.data(), path, error);
+}
+
+bool exportPng(const engine::SectionGeometry& g, const std::string& path, double scale, std::string& error)
+{
+    QSize size;
+    if (!ready(g, path, scale, size, error))
+        return false;
+    QImage image(size, QImage::Format_RGB32);
+    if (image.isNull()) {
+        error = exporting::saveFailure(path, "não há memória para uma imagem de " + std::to_string(size.width())
+                                                 + " x " + std::to_string(size.height()) + " pixels");
+        return false;
+    }
+    const int dotsPerMetre = static_cast<int>(std::lround(scale * 100));
+    image.setDotsPerMeterX(dotsPerMetre);
+    image.setDotsPerMeterY(dotsPerMetre);
+    {
+        QPainter p(&image);
+        paintOnSheet(p, g, size, scale);
+    }
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    if (!image.save(&buffer, "PNG")) {
+        error = exporting::saveFailure(path, "a imagem PNG não pôde ser gerada");
+        return false;
+    }
+    return save(buffer.data(), path, error);
+}
+
+bool exportDrawing(const engine::SectionGeometry& g, const std::string& path, double scale, std::string& error)
+{
+    if (path.empty()) {
+        error = exporting::missingFileName();
+        return false;
+    }
+    const std::string suffix = suffixOf(path);
+    if (suffix == ".dxf")
+        return exporting::writeDxf(g, path, error);
+    if (suffix == ".svg")
+        return exportSvg(g, path, scale, error);
+    if (suffix == ".png")
+        return exportPng(g, path, scale, error);
+    error = "O arquivo \"" + path + "\" não tem uma extensão de desenho conhecida: use .dxf, .svg ou .png.";
+    return false;
+}
+
+} // namespace pilarix::render
