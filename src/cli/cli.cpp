@@ -3,6 +3,7 @@
 #include "cli/controls_by_name.h"
 #include "base/number_text.h"
 
+#include <cmath>
 #include <filesystem>
 #include <ostream>
 
@@ -148,6 +149,14 @@ void report(const Program& p, const PolicyDialogs& d, std::ostream& out)
         if (m.kind == DialogRecord::Kind::Cover || m.kind == DialogRecord::Kind::Stirrup)
             out << " -> resposta " << m.resposta;
         out << "\n";
+    }
+    if (const auto& v = p.Verificacao) {
+        // In the units of the forces typed: kgf and kgf.cm divided by the units' factors.
+        out << "Verificação por compatibilidade de deformações: N_Sd = " << Format(v->nSd / 100, "##0.0") << " kN, M_Sd = "
+            << Format(v->mSd / 10000, "##0.00") << " kN.m; M_Rd = "
+            << (v->mRd ? Format(*v->mRd / 10000, "##0.00") + " kN.m" : std::string("(N_Sd fora da faixa resistente)"))
+            << "; utilização " << (std::isfinite(v->utilisation) ? Format(100 * v->utilisation, "##0.0") + " %" : "sem limite")
+            << "; As por compatibilidade " << (v->asCompat ? Format(*v->asCompat, "##0.00") + " cm2" : "nenhuma") << "\n";
     }
     out << "Erros: " << f.Text30.Text << "\n";
 }
@@ -329,6 +338,23 @@ nlohmann::ordered_json estadoJson(const Program& p)
     return j;
 }
 
+nlohmann::ordered_json verificacaoJson(const engine::Verification& v)
+{
+    // A quantity that has no value (no M_Rd outside the axial range, no area that
+    // carries the forces, a utilisation without bound) is null.
+    auto numero = [](std::optional<double> x) -> nlohmann::ordered_json {
+        if (!x || !std::isfinite(*x))
+            return nullptr;
+        return *x;
+    };
+    nlohmann::ordered_json curva = nlohmann::ordered_json::array();
+    for (const auto& [n, m] : v.curve)
+        curva.push_back({n, m});
+    return {{"NSd", v.nSd},        {"MSd", v.mSd},           {"MRd", numero(v.mRd)},
+            {"NRdMax", v.nRdMax},  {"NRdMin", v.nRdMin},     {"utilizacao", numero(v.utilisation)},
+            {"AsCompat", numero(v.asCompat)}, {"curva", curva}};
+}
+
 nlohmann::ordered_json mensagensJson(const std::vector<DialogRecord>& records)
 {
     nlohmann::ordered_json out = nlohmann::ordered_json::array();
@@ -373,6 +399,8 @@ nlohmann::ordered_json documentJson(const Program& program, const PolicyDialogs&
                             {"dLinha", s.dLinha}});
         doc["solucoes"] = rows;
     }
+    if (program.Verificacao)
+        doc["verificacao"] = verificacaoJson(*program.Verificacao);
     return doc;
 }
 

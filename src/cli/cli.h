@@ -23,6 +23,9 @@ nlohmann::ordered_json estadoJson(const Program& program);
 // dialogs recorded and, after a search, "solucoes".
 nlohmann::ordered_json documentJson(const Program& program, const PolicyDialogs& dialogs, bool melhor);
 
+// The check of the detailed column by strain compatibility, as "verificacao" of --json.
+nlohmann::ordered_json verificacaoJson(const engine::Verification& verification);
+
 // Every dialog of the run, in order, as the "mensagens" of --json.
 nlohmann::ordered_json mensagensJson(const std::vector<DialogRecord>& records);
 

@@ -11,6 +11,7 @@
 #include "engine/memory.h"
 #include "engine/method_state.h"
 #include "engine/search.h"
+#include "engine/verification.h"
 #include "window/dialog_port.h"
 #include "window/forms.h"
 
@@ -69,6 +70,11 @@ public:
     engine::Memory memoria;
     // The drawing of the section of the last detailed calculation.
     std::optional<engine::SectionGeometry> Desenho;
+    // The last interactive calculation: what it was given, what it found, and the
+    // detailed section checked by strain compatibility. Cleared with the result boxes.
+    engine::ColumnInput Entrada;
+    std::optional<engine::ColumnResult> Resultado;
+    std::optional<engine::Verification> Verificacao;
 
     // The pass Programa0 runs: the interactive pass (reads the window, asks, shows
     // every message and the results) or the silent pass of the search (reads

@@ -188,7 +188,9 @@ void Program::programa0Passes()
 void Program::passeInterativo()
 {
     PerguntasDaJanela perguntas(*this);
-    const engine::ColumnResult r = engine::calculate(entradaDoCalculo(), perguntas, memoria, metodo);
+    Entrada = entradaDoCalculo();
+    Resultado = engine::calculate(Entrada, perguntas, memoria, metodo);
+    const engine::ColumnResult& r = *Resultado;
     if (r.dLinhaText)
         Form1.Text3.Text = *r.dLinhaText;
     if (r.failure) {
@@ -208,6 +210,7 @@ void Program::passeInterativo()
     }
     Desenho = r.geometry;
     Form1.CotasVisiveis = true;
+    Verificacao = engine::verify(Entrada, r);
     std::feclearexcept(FE_ALL_EXCEPT);
     Imprime37();
     engine::checkFloatingPoint("Imprime37", {Base, Altura, nBase, static_cast<double>(nAltura), metodo.dLinha, Nd, Md,

@@ -20,6 +20,8 @@ void Program::Zera31()
     }
     f.CotasVisiveis = false;
     ErroEntrada = "n";
+    Resultado.reset();
+    Verificacao.reset();
 }
 
 void Program::Imprime37()
