@@ -1,8 +1,10 @@
 #include "cli/cli.h"
 
 #include "cli/controls_by_name.h"
+#include "export/dxf_writer.h"
 #include "base/number_text.h"
 
+#include <cctype>
 #include <cmath>
 #include <filesystem>
 #include <ostream>
@@ -36,7 +38,7 @@ namespace {
 
 constexpr const char* kUso =
     "uso: pilarix-cli [ARQUIVO] [--set CONTROLE=VALOR]... [--melhor] [--cobrimento 1|2] "
-    "[--estribo K] [--salvar SAIDA] [--sem-padrao] [--json]";
+    "[--estribo K] [--salvar SAIDA] [--desenho SAIDA.dxf|.svg|.png] [--sem-padrao] [--json]";
 
 struct Options {
     std::string file;
@@ -45,6 +47,7 @@ struct Options {
     int cobrimento = 1;
     int estribo = 4;
     std::string salvar;
+    std::string desenho; // the section's drawing, in the format of the name
     bool json = false;
     bool semPadrao = false; // do not load "Padrão.txt" of the working directory
 };
@@ -97,6 +100,10 @@ bool parse(const std::vector<std::string>& args, Options& o, std::string& error)
             if (!next(v))
                 return false;
             o.salvar = v;
+        } else if (a == "--desenho") {
+            if (!next(v))
+                return false;
+            o.desenho = v;
         } else if (a.size() > 1 && a[0] == '-') {
             error = "opção desconhecida: " + a;
             return false;
@@ -404,7 +411,32 @@ nlohmann::ordered_json documentJson(const Program& program, const PolicyDialogs&
     return doc;
 }
 
-int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err)
+namespace {
+bool endsWith(std::string name, const std::string& suffix)
+{
+    for (auto& c : name)
+        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return name.size() >= suffix.size() && name.compare(name.size() - suffix.size(), suffix.size(), suffix) == 0;
+}
+
+// The drawing of the detailed section, at the scale of "Escala" for SVG and PNG.
+bool writeDrawing(const Program& p, const std::string& path, const DrawingWriter& writer, std::string& error)
+{
+    if (!p.Desenho) {
+        error = "não há seção detalhada para desenhar em \"" + path + "\": o cálculo terminou antes do detalhamento";
+        return false;
+    }
+    const double scale = p.Escala > 0 ? p.Escala : 5;
+    if (writer)
+        return writer(*p.Desenho, path, scale, error);
+    if (endsWith(path, ".dxf"))
+        return exporting::writeDxf(*p.Desenho, path, error);
+    error = "\"" + path + "\": este pilarix-cli grava o desenho apenas em DXF (.dxf)";
+    return false;
+}
+} // namespace
+
+int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err, const DrawingWriter& writer)
 {
     Options o;
     std::string error;
@@ -450,12 +482,21 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
         }
     }
 
+    int status = 0;
+    if (!o.desenho.empty()) {
+        std::string error;
+        if (!writeDrawing(program, o.desenho, writer, error)) {
+            err << "pilarix-cli: " << error << "\n";
+            status = 2;
+        }
+    }
+
     if (!o.json) {
         report(program, dialogs, out);
-        return 0;
+        return status;
     }
     out << documentJson(program, dialogs, o.melhor).dump(2) << "\n";
-    return 0;
+    return status;
 }
 
 } // namespace pilarix

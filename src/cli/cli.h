@@ -7,14 +7,22 @@
 
 #include <nlohmann/json.hpp>
 
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <vector>
 
 namespace pilarix {
 
+// Writes the section's drawing to a file in the format of its name. The command
+// line writes DXF itself; SVG and PNG need the Qt painter, which pilarix-cli's main
+// hands in where it was built with it.
+using DrawingWriter = std::function<bool(const engine::SectionGeometry& geometry, const std::string& path,
+                                         double scale, std::string& error)>;
+
 // Runs the command line; returns the exit status (0 ran, 2 bad arguments or file).
-int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err,
+           const DrawingWriter& writer = {});
 
 // The calculation state, keyed by field name.
 nlohmann::ordered_json estadoJson(const Program& program);

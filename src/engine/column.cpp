@@ -603,6 +603,8 @@ void Passes::finish(ColumnResult& r)
     d.stirrupSpacing = s.EspEstribo;
     d.cover = s.CobEfetivo;
     d.hook = in_.hook;
+    d.hookLength = s.ComprGancho / 2;
+    d.tieHookLength = s.ComprGanchoSup / 2;
     for (long i = 1; i <= in_.barsOnWidthFace && i <= 500; ++i)
         d.tiesAcrossWidth.push_back(s.SupH(i) == TieFlag::Tie);
     for (long j = 1; j <= in_.barsOnDepthFace && j <= 500; ++j)

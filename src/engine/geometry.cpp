@@ -54,10 +54,11 @@ SectionGeometry sectionGeometry(const DetailedSection& d)
     g.stirrupOuter = rectangle(c, c, b - c, h - c);
     g.stirrupInner = rectangle(c + ft, c + ft, b - c - ft, h - c - ft);
 
-    // Both hooks at the top-left corner, bent into the core: 135° hooks run parallel
-    // at 45°, right-angle hooks straight along the opposite leg.
+    // Both hooks at the top-left corner, bent into the core, as long as the detailing
+    // allows for them: 135° hooks run parallel at 45°, right-angle hooks straight
+    // along the opposite leg.
     const double xc = c + ft / 2, yc = h - c - ft / 2;
-    const double hook = std::max(5 * ft, 1.5);
+    const double hook = d.hookLength > 0 ? d.hookLength : std::max(5 * ft, 1.5);
     if (d.hook == Hook::Angle45) {
         const double s = hook * std::sqrt(0.5);
         g.stirrupHooks.push_back({{{xc + ft, yc}, {xc + ft + s, yc - s}}, false});
@@ -85,7 +86,7 @@ SectionGeometry sectionGeometry(const DetailedSection& d)
 
     // A flag at bar i of the width faces ties bar i of the top face to bar i of the
     // bottom one; the arrangement is symmetric, one tie serves both faces.
-    const double tieHook = std::max(3 * ft, 1.5);
+    const double tieHook = d.tieHookLength > 0 ? d.tieHookLength : std::max(3 * ft, 1.5);
     for (long i = 1; i <= nb && i <= static_cast<long>(d.tiesAcrossWidth.size()); ++i) {
         if (!d.tiesAcrossWidth[static_cast<std::size_t>(i - 1)])
             continue;

@@ -71,6 +71,8 @@ struct DetailedSection {
     Hook hook = Hook::Angle45;
     std::vector<bool> tiesAcrossWidth; // bar i (from 1) of the width faces tied across the depth
     std::vector<bool> tiesAcrossDepth; // bar j (from 1) of the depth faces tied across the width
+    double hookLength = 0;    // one hook of the stirrup, cm (half the allowance of both); 0: a sketch of it
+    double tieHookLength = 0; // one hook of a supplementary stirrup, cm; 0: a sketch of it
 };
 
 SectionGeometry sectionGeometry(const DetailedSection& detail);

@@ -5,7 +5,8 @@
 #include "ui/d_estimate_dialog.h"
 #include "ui/other_values_dialog.h"
 #include "ui/qt_dialogs.h"
-#include "ui/section_view.h"
+#include "render/drawing_export.h"
+#include "ui/section_canvas.h"
 #include "ui/solutions_dialog.h"
 
 #include <QAction>
@@ -260,6 +261,8 @@ void MainWindow::montaMenus()
                             [this] { this->arquivo(&Program::mnuItemSave_Click); }));
     arquivo->addAction(acao(QStringLiteral("Salvar valores como &padrão"), QStringLiteral("mnuItemSaveDefault"),
                             [this] { this->arquivo(&Program::mnuItemSaveDefault_Click); }));
+    arquivo->addAction(
+        acao(QStringLiteral("&Exportar desenho..."), QStringLiteral("mnuItemExportar"), [this] { exportaDesenho(); }));
     arquivo->addSeparator();
     arquivo->addAction(acao(QStringLiteral("S&obre"), QStringLiteral("mnuItemSobre"), [this] { abreSobre(); }));
     arquivo->addAction(acao(QStringLiteral("Sai&r"), QStringLiteral("mnuItemSair"), [this] { close(); }));
@@ -441,20 +444,23 @@ QWidget* MainWindow::montaDesenho()
     auto& f = program_->Form1;
     auto* q = quadro("Seção transversal", "Frame8");
     auto* v = new QVBoxLayout(q);
-    desenho_ = new SectionView;
+    desenho_ = new SectionCanvas;
     desenho_->setObjectName(QStringLiteral("Picture1"));
-    rolagemDesenho_ = new QScrollArea;
-    rolagemDesenho_->setWidget(desenho_);
-    rolagemDesenho_->setWidgetResizable(true);
-    rolagemDesenho_->setFrameShape(QFrame::StyledPanel);
-    rolagemDesenho_->setBackgroundRole(QPalette::Base);
-    rolagemDesenho_->setMinimumWidth(260);
-    v->addWidget(rolagemDesenho_, 1);
+    desenho_->setToolTip(QStringLiteral("Roda do mouse: zoom. Arrastar: mover. Duplo clique ou Ajustar: desenho inteiro."));
+    desenho_->setMinimumWidth(260);
+    v->addWidget(desenho_, 1);
     auto* linha = new QHBoxLayout;
     auto* t6 = caixa(f.Text6, QStringLiteral("Text6"), Teclas::Decimal, 48);
+    t6->setToolTip(QStringLiteral("Escala do desenho exportado em SVG e PNG, em pixels por centímetro da seção"));
     linha->addWidget(rotulo(QStringLiteral("Escala"), t6));
     linha->addWidget(t6);
     linha->addStretch();
+    auto* ajustar = new QPushButton(QStringLiteral("Ajustar"));
+    ajustar->setObjectName(QStringLiteral("AjustarDesenho"));
+    ajustar->setAutoDefault(false);
+    ajustar->setToolTip(QStringLiteral("Mostra o desenho inteiro no quadro"));
+    connect(ajustar, &QPushButton::clicked, desenho_, &SectionCanvas::fit);
+    linha->addWidget(ajustar);
     v->addLayout(linha);
     return q;
 }
@@ -643,7 +649,15 @@ void MainWindow::atualiza()
         b->setEnabled(m->Enabled);
         b->setVisible(m->Visible);
     }
-    desenho_->mostra(program_->Desenho, program_->Escala, f.CotasVisiveis, f.Image1Visible);
+    // The canvas keeps its zoom while the drawing it shows stays the same.
+    if (program_->VersaoDoDesenho != versaoDoDesenho_) {
+        versaoDoDesenho_ = program_->VersaoDoDesenho;
+        if (program_->Desenho)
+            desenho_->setSection(*program_->Desenho);
+        else
+            desenho_->clearSection();
+    }
+    desenho_->setPlaceholderText(f.Image1Visible ? QStringLiteral("Pilarix Normal") : QString());
 }
 
 void MainWindow::executa(const std::function<void()>& handler)
@@ -715,6 +729,25 @@ void MainWindow::abreSolucoes()
             program_->Form11, [this] { executa([this] { program_->Form11Escolhe(); }); }, this);
     solucoes_->atualiza();
     solucoes_->exec();
+}
+
+void MainWindow::exportaDesenho()
+{
+    auto& p = *program_;
+    if (!p.Desenho) {
+        dialogos_->notice("Calcule a seção antes de exportar o desenho: não há seção detalhada para desenhar.");
+        return;
+    }
+    // The project's name, with the drawing's extension in place of its own.
+    std::string proposto = p.NomeArquivo.empty() || p.NomeArquivo == "Padrão.txt" ? "pilar" : p.NomeArquivo;
+    if (const auto ponto = proposto.find_last_of('.'); ponto != std::string::npos && proposto.find('/', ponto) == std::string::npos)
+        proposto.erase(ponto);
+    const std::string nome = dialogos_->askDrawingFileName(proposto + ".dxf");
+    if (nome.empty())
+        return;
+    std::string erro;
+    if (!render::exportDrawing(*p.Desenho, nome, p.Escala > 0 ? p.Escala : 5, erro))
+        dialogos_->notice(erro);
 }
 
 void MainWindow::abreSobre()

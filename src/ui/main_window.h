@@ -27,7 +27,7 @@ class QScrollArea;
 namespace pilarix::ui {
 
 class QtDialogs;
-class SectionView;
+class SectionCanvas;
 class OtherValuesDialog;
 class DEstimateDialog;
 class SolutionsDialog;
@@ -52,13 +52,14 @@ public:
     void copiaParaModelo();
     void atualiza();
 
-    SectionView* desenho() const { return desenho_; }
+    SectionCanvas* desenho() const { return desenho_; }
 
 public slots:
     void abreOutrosValores();
     void abreEstimativaDLinha();
     void abreSolucoes();
     void abreSobre();
+    void exportaDesenho();
 
 private:
     void montaMenus();
@@ -96,8 +97,8 @@ private:
     KeyFilter* filtroBitola_;
     KeyFilter* filtroNenhum_;
 
-    SectionView* desenho_ = nullptr;
-    QScrollArea* rolagemDesenho_ = nullptr;
+    SectionCanvas* desenho_ = nullptr;
+    unsigned versaoDoDesenho_ = 0; // the drawing the canvas shows, so that a refresh keeps its zoom
     QPointer<OtherValuesDialog> outros_;
     QPointer<DEstimateDialog> estimativa_;
     QPointer<SolutionsDialog> solucoes_;

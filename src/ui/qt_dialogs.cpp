@@ -74,4 +74,25 @@ std::string QtDialogs::askSaveFileName()
     return d.selectedFiles().constFirst().toStdString();
 }
 
+std::string QtDialogs::askDrawingFileName(const std::string& proposed)
+{
+    // The format follows the type chosen; a name typed without an extension takes it.
+    static const QStringList filtros{QStringLiteral("Desenho para CAD (*.dxf)"),
+                                     QStringLiteral("Desenho vetorial (*.svg)"), QStringLiteral("Imagem (*.png)")};
+    static const QStringList sufixos{QStringLiteral("dxf"), QStringLiteral("svg"), QStringLiteral("png")};
+    QFileDialog d(parent_, QStringLiteral("Exportar desenho"), QString::fromStdString(proposed),
+                  filtros.join(QStringLiteral(";;")));
+    d.setAcceptMode(QFileDialog::AcceptSave);
+    d.setFileMode(QFileDialog::AnyFile);
+    d.setDefaultSuffix(sufixos.constFirst());
+    QObject::connect(&d, &QFileDialog::filterSelected, &d, [&d](const QString& filtro) {
+        const auto i = filtros.indexOf(filtro);
+        if (i >= 0)
+            d.setDefaultSuffix(sufixos[i]);
+    });
+    if (d.exec() != QDialog::Accepted || d.selectedFiles().isEmpty())
+        return {};
+    return d.selectedFiles().constFirst().toStdString();
+}
+
 } // namespace pilarix::ui

@@ -33,6 +33,7 @@ public:
     void beep() override;
     std::string askOpenFileName() override;
     std::string askSaveFileName() override;
+    std::string askDrawingFileName(const std::string& proposed) override;
 
 private:
     QWidget* parent_;

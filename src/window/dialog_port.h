@@ -33,6 +33,10 @@ public:
     // File dialogs with the filter "Text files (*.TXT)|*.TXT"; empty when cancelled.
     virtual std::string askOpenFileName() = 0;
     virtual std::string askSaveFileName() = 0;
+
+    // Where to save the section's drawing (.dxf, .svg or .png), proposing a name;
+    // empty when cancelled.
+    virtual std::string askDrawingFileName(const std::string& proposed) = 0;
 };
 
 } // namespace pilarix

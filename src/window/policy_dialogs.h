@@ -27,7 +27,7 @@ class PolicyDialogs : public DialogPort {
 public:
     int coverAnswer = 1;   // 1: the first button, 2: "&2 - Ignorar"
     int stirrupOption = 4; // element of Option1 chosen in "Escolha dos estribos"
-    std::string openFileName, saveFileName; // empty: the file dialogs are cancelled
+    std::string openFileName, saveFileName, drawingFileName; // empty: the file dialogs are cancelled
     std::vector<DialogRecord> records;
     int beeps = 0;
 
@@ -38,6 +38,7 @@ public:
     void beep() override { ++beeps; }
     std::string askOpenFileName() override { return openFileName; }
     std::string askSaveFileName() override { return saveFileName; }
+    std::string askDrawingFileName(const std::string&) override { return drawingFileName; }
 
     // The text of the last dialog shown; empty when none was.
     std::string lastMessage() const { return records.empty() ? std::string() : records.back().mensagem; }

@@ -70,6 +70,7 @@ public:
     engine::Memory memoria;
     // The drawing of the section of the last detailed calculation.
     std::optional<engine::SectionGeometry> Desenho;
+    unsigned VersaoDoDesenho = 0; // counts the changes of Desenho
     // The last interactive calculation: what it was given, what it found, and the
     // detailed section checked by strain compatibility. Cleared with the result boxes.
     engine::ColumnInput Entrada;

@@ -177,6 +177,7 @@ void Program::programa0Passes()
                                          Fck, Precisao});
     const bool erroDeEntrada = ErroEntrada == "s";
     Desenho.reset();
+    ++VersaoDoDesenho;
     Zera31();
     if (erroDeEntrada) {
         finalDeErro();
@@ -209,6 +210,7 @@ void Program::passeInterativo()
         return;
     }
     Desenho = r.geometry;
+    ++VersaoDoDesenho;
     Form1.CotasVisiveis = true;
     Verificacao = engine::verify(Entrada, r);
     std::feclearexcept(FE_ALL_EXCEPT);
@@ -228,6 +230,7 @@ void Program::passeInterativo()
 void Program::passeSilencioso()
 {
     Desenho.reset();
+    ++VersaoDoDesenho;
     Zera31();
     engine::ColumnInput in = entradaDoCalculo();
     in.dLinha.automatic = true;

@@ -129,6 +129,7 @@ void buscaMelhorSolucao(Program& p)
             // arrangement and results are what the window holds now.
             f.Image1Visible = false;
             p.Desenho.reset();
+            ++p.VersaoDoDesenho;
             p.Zera31();
             p.nAltura = static_cast<std::int16_t>(r.lastBarsOnDepthFace);
             p.nBase = r.lastBarsOnWidthFace;
