@@ -5,23 +5,12 @@
 // what it showed and the answer it got.
 
 #include "window/dialog_port.h"
+#include "window/dialog_record.h"
 
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace pilarix {
-
-struct DialogRecord {
-    enum class Kind { Error, Cover, Stirrup, Notice };
-    Kind kind = Kind::Notice;
-    std::string janela;   // the dialog's caption ("aviso" for a notice)
-    std::string mensagem; // the text it showed
-    std::string item;     // the clause of the standard (error and cover dialogs)
-    std::string botao1;   // the first button of the cover dialog
-    std::vector<std::string> opcoes; // the options of the stirrup choice
-    int resposta = 0;     // the answer given (cover and stirrup choice)
-};
 
 class PolicyDialogs : public DialogPort {
 public:

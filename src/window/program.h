@@ -13,6 +13,7 @@
 #include "engine/search.h"
 #include "engine/verification.h"
 #include "window/dialog_port.h"
+#include "window/dialog_record.h"
 #include "window/forms.h"
 
 #include <cstdint>
@@ -76,6 +77,9 @@ public:
     engine::ColumnInput Entrada;
     std::optional<engine::ColumnResult> Resultado;
     std::optional<engine::Verification> Verificacao;
+    // Every message and question of the last calculation, in order, with the answer
+    // given: the error dialogs, the cover question, the stirrup choice, the notices.
+    std::vector<DialogRecord> MensagensDoCalculo;
 
     // The pass Programa0 runs: the interactive pass (reads the window, asks, shows
     // every message and the results) or the silent pass of the search (reads

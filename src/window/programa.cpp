@@ -28,7 +28,11 @@ public:
         // names none.
         if (q.correctCaption)
             f.Command2.Caption = std::string(*q.correctCaption);
-        return p_.dialogs().askCover(f) == 1 ? engine::CoverAnswer::Correct : engine::CoverAnswer::Ignore;
+        const int resposta = p_.dialogs().askCover(f);
+        p_.MensagensDoCalculo.push_back({DialogRecord::Kind::Cover, f.Caption, f.Label2.Caption, f.Label3.Caption,
+                                         f.Command2.Caption, {}, resposta,
+                                         resposta == 1 ? f.Command2.Caption : f.Command1.Caption});
+        return resposta == 1 ? engine::CoverAnswer::Correct : engine::CoverAnswer::Ignore;
     }
 
     int chooseStirrup(const engine::StirrupQuestion& q) override
@@ -52,6 +56,12 @@ public:
                 break;
             }
         }
+        DialogRecord r{DialogRecord::Kind::Stirrup, f.Caption, f.Label1.Caption + f.Label2.Caption, {}, {}, {},
+                       escolhida, f.Option1[static_cast<std::size_t>(escolhida)].Caption};
+        for (const auto& o : f.Option1)
+            if (!o.Caption.empty())
+                r.opcoes.push_back(o.Caption);
+        p_.MensagensDoCalculo.push_back(std::move(r));
         // The dialog is cleared for its next use.
         for (std::size_t i = 0; i < 4; ++i) {
             f.Option1[i].Caption.clear();
@@ -100,6 +110,8 @@ void Program::MostraErro()
 {
     Form2.Label1.Caption = metodo.MensagemErro;
     Form2.Label2.Caption = metodo.ItemNorma;
+    MensagensDoCalculo.push_back(
+        {DialogRecord::Kind::Error, Form2.Caption, Form2.Label1.Caption, Form2.Label2.Caption, {}, {}, 0, {}});
     dialogs().showError(Form2);
 }
 
@@ -164,6 +176,7 @@ void Program::Programa0()
 
 void Program::programa0Passes()
 {
+    MensagensDoCalculo.clear();
     metodo.Recalcula = engine::Recalculation::No;
     Form1.Image1Visible = false;
     if (passeDoCalculo() == Passe::Silencioso) {

@@ -107,6 +107,7 @@ void buscaMelhorSolucao(Program& p)
 {
     auto& f = p.Form1;
 
+    p.MensagensDoCalculo.clear();
     p.Solucoes.clear();
     p.Ordenadas.clear();
     p.NSolucoes = 0;
@@ -155,6 +156,8 @@ void buscaMelhorSolucao(Program& p)
     }
 
     f.Check3.Value = 0;
+    p.MensagensDoCalculo.push_back(
+        {DialogRecord::Kind::Notice, "aviso", std::string(engine::kNoArrangement), {}, {}, {}, 0, {}});
     p.dialogs().notice(std::string(engine::kNoArrangement));
     p.Zera31();
     f.Text30.Text = "erro";
