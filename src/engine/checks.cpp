@@ -2,6 +2,8 @@
 
 #include "base/number_text.h"
 
+#include <cmath>
+
 namespace pilarix::engine {
 
 namespace {
@@ -42,6 +44,7 @@ std::string_view clauseOf(CheckId id)
         return kItemAggregate;
     case CheckId::AreaByStrainCompatibility:
     case CheckId::BeyondAnyArrangement:
+    case CheckId::CaseNotCarried:
         return kItemUltimateStrains;
     case CheckId::CoverBelowNominal:
         return kItemCover;
@@ -163,6 +166,16 @@ Check beyondAnyArrangement(double nSd, double mSd)
                 "Os esforços de cálculo (Nd = " + Format(nSd / 100, "##0.0") + " kN, Md = " + Format(mSd / 10000, "##0.00")
                     + " kN.m, já multiplicados por γn) excedem o que esta seção resiste com qualquer armadura: "
                       "nem uma área de aço igual à da seção de concreto os equilibra. Aumente a seção.");
+}
+
+Check caseNotCarried(const std::string& name, double nSd, double mSd, double utilisation)
+{
+    const std::string u = std::isfinite(utilisation) ? Format(100 * utilisation, "##0.0") + " %" : "sem limite";
+    return make(CheckId::CaseNotCarried, "O caso \"" + name + "\" (Nd = " + Format(nSd / 100, "##0.0")
+                                             + " kN, Md = " + Format(mSd / 10000, "##0.00")
+                                             + " kN.m, já multiplicados por γn) não é resistido pela seção detalhada: "
+                                               "utilização de "
+                                             + u + ".");
 }
 
 Check coverAggregate(double nominalCover, double aggregate)

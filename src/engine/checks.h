@@ -36,6 +36,8 @@ enum class CheckId {
     // the design by strain compatibility where the zones method finds no equilibrium
     AreaByStrainCompatibility,
     BeyondAnyArrangement,
+    // load cases
+    CaseNotCarried,
     // cover (questions)
     CoverAggregate,
     CoverBelowNominal,
@@ -73,6 +75,9 @@ Check axisSpacing(bool widthFaces, double spacing, std::string_view limit, doubl
 Check areaByStrainCompatibility(double nu, double mu, double area);
 // NSd in kgf and MSd in kgf·cm, γn included.
 Check beyondAnyArrangement(double nSd, double mSd);
+// A load case the detailed section does not carry: its name, its design forces (kgf,
+// kgf·cm, γn included) and its utilisation (a fraction).
+Check caseNotCarried(const std::string& name, double nSd, double mSd, double utilisation);
 Check coverAggregate(double nominalCover, double aggregate);
 Check coverBelowNominal(double effectiveCover, double nominalCover);
 Check coverBelowBarDiameter(double barCover, double barDiameter);

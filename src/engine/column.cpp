@@ -49,6 +49,7 @@ public:
     }
 
     void run(ColumnResult& r);
+    void runDesign(ColumnResult& r);
     // The texts the silent pass leaves to the end: nothing reads them in between.
     void writeDeferredTexts(ColumnResult& r);
 
@@ -588,6 +589,16 @@ void Passes::run(ColumnResult& r)
     }
 }
 
+void Passes::runDesign(ColumnResult& r)
+{
+    s.Recalcula = Recalculation::No;
+    r.passes = 1;
+    s.MensagemErro.clear();
+    s.FlagErro = ErrorFlag::None;
+    s.Rho = 0;
+    designPass(r);
+}
+
 void Passes::finish(ColumnResult& r)
 {
     r.detailed = true;
@@ -657,7 +668,7 @@ void collect(const MethodState& s, ColumnResult& r, const ColumnInput& in)
 }
 
 ColumnResult run(const ColumnInput& in, Questions* questions, Memory& memory, MethodState& s,
-                 const CandidateStirrup* candidate)
+                 const CandidateStirrup* candidate, bool designOnly = false)
 {
     ColumnResult r;
     // What the method carries from the calculation before.
@@ -672,7 +683,10 @@ ColumnResult run(const ColumnInput& in, Questions* questions, Memory& memory, Me
     Passes passes(in, s, memory, questions, candidate);
     startFloatingPointWatch();
     try {
-        passes.run(r);
+        if (designOnly)
+            passes.runDesign(r);
+        else
+            passes.run(r);
     } catch (const CalcError& e) {
         r.failure = e.what();
     }
@@ -700,6 +714,13 @@ ColumnResult calculate(const ColumnInput& input, Questions& questions, Memory& m
 {
     MethodState state;
     return calculate(input, questions, memory, state);
+}
+
+ColumnResult design(const ColumnInput& input, Memory& memory)
+{
+    MethodState state;
+    FixedAnswers quiet;
+    return run(input, &quiet, memory, state, nullptr, true);
 }
 
 ColumnResult calculateCandidate(const ColumnInput& input, const CandidateStirrup& stirrup, Memory& memory,

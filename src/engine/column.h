@@ -152,6 +152,11 @@ struct ColumnResult {
 ColumnResult calculate(const ColumnInput& input, Questions& questions, Memory& memory);
 ColumnResult calculate(const ColumnInput& input, Questions& questions, Memory& memory, MethodState& state);
 
+// The design by solicitation zones alone, as the first pass of calculate() makes it
+// (d' as typed, or 3 cm when found from the cover): `designed`, `design`, a wall's
+// check and `failure` are filled; nothing is asked or told, no bar is chosen.
+ColumnResult design(const ColumnInput& input, Memory& memory);
+
 // The silent pass of the best-solution search for one candidate arrangement (the
 // bars per face in `input`, the stirrup given): nothing is asked or told, every
 // check only marks the arrangement as failed, the cover is corrected at once.

@@ -1,0 +1,78 @@
+#include "engine/load_cases.h"
+
+#include "base/calc_error.h"
+
+#include <cmath>
+#include <limits>
+
+namespace pilarix::engine {
+
+namespace {
+ColumnInput withForces(ColumnInput in, const LoadCase& c)
+{
+    in.Nd = c.Nd;
+    in.Md = c.Md;
+    return in;
+}
+} // namespace
+
+std::vector<double> caseUtilisations(const ReinforcedSection& section, double gammaN,
+                                     const std::vector<LoadCase>& cases)
+{
+    std::vector<double> u;
+    u.reserve(cases.size());
+    for (const auto& c : cases) {
+        try {
+            u.push_back(utilisation(section, c.Nd * gammaN, c.Md * gammaN).ratio);
+        } catch (const CalcError&) {
+            u.push_back(std::numeric_limits<double>::quiet_NaN());
+        }
+    }
+    return u;
+}
+
+CasesResult calculateCases(const ColumnInput& column, const std::vector<LoadCase>& cases, Questions& questions,
+                           MethodState& state)
+{
+    CasesResult r;
+    // Each case from a fresh start: no μ0 or λ of one case reaches another.
+    double most = -1;
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        Memory fresh;
+        CaseResult c{cases[i], design(withForces(column, cases[i]), fresh), std::nan(""), false};
+        if (c.design.designed && !c.design.failure && c.design.design.asNec > most) {
+            most = c.design.design.asNec;
+            r.governing = static_cast<int>(i);
+        }
+        r.cases.push_back(std::move(c));
+    }
+    if (cases.empty())
+        return r;
+    r.cases[static_cast<std::size_t>(r.governing)].governing = true;
+
+    const ColumnInput governing = withForces(column, cases[static_cast<std::size_t>(r.governing)]);
+    Memory fresh;
+    r.detail = calculate(governing, questions, fresh, state);
+    r.verification = verify(governing, r.detail);
+    const auto section = detailedSection(governing, r.detail);
+    if (!section)
+        return r;
+    const auto u = caseUtilisations(*section, r.detail.design.gammaN, cases);
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        r.cases[i].utilisation = u[i];
+        if (!(u[i] <= 1)) {
+            const double g = r.detail.design.gammaN;
+            r.failures.push_back(checks::caseNotCarried(cases[i].name, cases[i].Nd * g, cases[i].Md * g, u[i]));
+            questions.tell(r.failures.back());
+        }
+    }
+    return r;
+}
+
+CasesResult calculateCases(const ColumnInput& column, const std::vector<LoadCase>& cases, Questions& questions)
+{
+    MethodState state;
+    return calculateCases(column, cases, questions, state);
+}
+
+} // namespace pilarix::engine
