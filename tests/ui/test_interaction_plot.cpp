@@ -1,9 +1,16 @@
 // The interaction diagram puts the curve and the design points where the numbers
-// say, green when carried and red when not, and survives data it cannot draw.
+// say, green when carried and red when not, and survives data it cannot draw; its
+// dialog gives the utilisation with one decimal and the verdict at the boundary.
 
-#include "ui/interaction_plot.h"
+#include "ui/interaction_dialog.h"
 
+#include "base/number_text.h"
+#include "engine/interaction.h"
+
+#include <QAbstractButton>
+#include <QApplication>
 #include <QImage>
+#include <QLabel>
 
 #include <gtest/gtest.h>
 
@@ -208,4 +215,100 @@ TEST(InteractionPlot, DataItCannotDrawShowsATextAndNothingBreaks)
     plot.clear();
     EXPECT_FALSE(plot.hasCurve());
     EXPECT_EQ(plot.shownMessage(), plot.placeholderText());
+}
+
+namespace {
+
+struct Shown {
+    ui::InteractionDialog dialog;
+    QLabel* label(const char* name) { return dialog.findChild<QLabel*>(QString::fromLatin1(name)); }
+    QColor colour(const char* name) { return label(name)->palette().color(QPalette::WindowText); }
+};
+
+} // namespace
+
+TEST(InteractionDialog, UtilisationWithOneDecimalAndTheVerdictAtExactly100)
+{
+    struct Case {
+        double u;
+        const char *text, *verdict;
+        QColor colour;
+    };
+    const QColor green(0, 140, 60), red(205, 30, 30), grey(128, 128, 128);
+    const Case cases[] = {
+        {0, "0.0 %", "resiste", green},
+        {0.87449, "87.4 %", "resiste", green},
+        {1.0, "100.0 %", "resiste", green},
+        {std::nextafter(1.0, 2.0), "> 100.0 %", "NÃO RESISTE", red}, // outside, though it rounds to 100.0
+        {1.0006, "100.1 %", "NÃO RESISTE", red},
+        {12.5, "1250.0 %", "NÃO RESISTE", red},
+        {kInf, "∞", "NÃO RESISTE", red},
+        {kNaN, "—", "", grey},
+        {-0.5, "—", "", grey},
+    };
+    Shown s;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.u);
+        DiagramData d = ellipse();
+        d.points = {{400, 10000, {}, c.u}};
+        s.dialog.mostra(d);
+        EXPECT_EQ(s.label("lblUtilizacao")->text(), QStringLiteral("Utilização: ") + QString::fromUtf8(c.text));
+        EXPECT_EQ(s.label("lblVeredito")->text(), QString::fromUtf8(c.verdict));
+        EXPECT_EQ(s.colour("lblUtilizacao"), c.colour);
+        EXPECT_EQ(s.colour("lblVeredito"), c.colour);
+    }
+    s.dialog.mostra(ellipse(), 0.5); // the utilisation given apart, with no point
+    EXPECT_EQ(s.label("lblUtilizacao")->text(), QStringLiteral("Utilização: 50.0 %"));
+    EXPECT_EQ(s.label("lblMRd")->text(), QStringLiteral("M_Rd: —"));
+}
+
+TEST(InteractionDialog, AColumn20x50InKNShowsItsFiguresAndStaysOpenForTheNext)
+{
+    // 2×4 bars of 1.25 cm², d' 4.125, fck 200 kgf/cm², γc 1.5, CA-50A: the engine's
+    // curve in kgf and kgf·cm, shown in KN and KN.cm.
+    const auto section = engine::rectangularColumn(20, 50, 4.125, 2, 4, 1.25, engine::designConcrete(200, 1.5),
+                                                   engine::designSteel(engine::SteelGrade::CA50A, 1.15, 2100000));
+    const auto curve = engine::interactionCurve(section);
+    const auto shows = [&](double nKN, double mKNcm) {
+        DiagramData d;
+        d.forceUnit = QStringLiteral("KN");
+        d.momentUnit = QStringLiteral("KN.cm");
+        for (const auto& p : curve.points)
+            d.curve.emplace_back(p.m / 100, p.n / 100);
+        d.nRdMax = curve.nRdMax / 100;
+        d.nRdMin = curve.nRdMin / 100;
+        const double u = engine::utilisation(section, 100 * nKN, 100 * mKNcm).ratio;
+        d.points = {{nKN, mKNcm, {}, u, true}};
+        if (const auto c = engine::momentCapacity(section, 100 * nKN))
+            d.mRd = c->mRd / 100;
+        return d;
+    };
+
+    Shown s;
+    s.dialog.show();
+    const DiagramData d = shows(400, 10000);
+    s.dialog.mostra(d);
+    QApplication::processEvents();
+    EXPECT_FALSE(s.dialog.isModal());
+    ASSERT_TRUE(d.mRd);
+    const auto text = [](double x) { return QString::fromStdString(Format(x, "##0.00")); };
+    EXPECT_EQ(s.label("lblMRd")->text(), QStringLiteral("M_Rd para N_Sd = 400.00 KN:\n%1 KN.cm").arg(text(*d.mRd)));
+    EXPECT_EQ(s.label("lblNRdMax")->text(), QStringLiteral("N_Rd,máx = %1 KN").arg(text(d.nRdMax)));
+    // The ray's end sits on the engine's own curve.
+    const DiagramPoint& p = d.points[0];
+    const QPointF edge = s.dialog.grafico()->toScreen(p.m / p.utilisation, p.n / p.utilisation);
+    EXPECT_TRUE(crossMark(image(*s.dialog.grafico()).pixel(pixel(edge))));
+    if (const QByteArray to = qgetenv("PILARIX_DIAGRAMA_PNG"); !to.isEmpty())
+        s.dialog.grab().save(QString::fromLocal8Bit(to));
+
+    // The next calculation replaces it: a force beyond N_Rd,máx has no M_Rd.
+    s.dialog.mostra(shows(2000, 1000));
+    EXPECT_EQ(s.label("lblMRd")->text(), QStringLiteral("N_Sd fora de [N_Rd,mín, N_Rd,máx]: não há M_Rd"));
+    EXPECT_EQ(s.label("lblVeredito")->text(), QStringLiteral("NÃO RESISTE"));
+    s.dialog.limpa();
+    EXPECT_FALSE(s.dialog.grafico()->hasCurve());
+    EXPECT_EQ(s.label("lblUtilizacao")->text(), QStringLiteral("Utilização: —"));
+
+    s.dialog.findChild<QAbstractButton*>(QStringLiteral("cmdFechar"))->click();
+    EXPECT_FALSE(s.dialog.isVisible());
 }
