@@ -3,9 +3,12 @@
 #include "base/number_text.h"
 #include "ui/about_dialog.h"
 #include "ui/d_estimate_dialog.h"
+#include "ui/interaction_dialog.h"
 #include "ui/other_values_dialog.h"
 #include "ui/qt_dialogs.h"
+#include "base/number_text.h"
 #include "render/drawing_export.h"
+#include "window/units.h"
 #include "ui/section_canvas.h"
 #include "ui/solutions_dialog.h"
 
@@ -271,6 +274,8 @@ void MainWindow::montaMenus()
     valores->setObjectName(QStringLiteral("mnuValores"));
     valores->addAction(
         acao(QStringLiteral("Outros"), QStringLiteral("mnuItemPrecisao"), [this] { abreOutrosValores(); }));
+    valores->addAction(acao(QStringLiteral("&Diagrama de interação"), QStringLiteral("mnuItemDiagrama"),
+                            [this] { abreDiagrama(); }));
 }
 
 QWidget* MainWindow::montaEntradas()
@@ -528,6 +533,37 @@ QWidget* MainWindow::montaResultados()
     gz->setColumnStretch(3, 1);
     v->addWidget(zon);
 
+    // The detailed section checked by strain compatibility, whatever the zones method said.
+    auto* ver = quadro("Verificação", "FrameVerificacao");
+    auto* gv = new QGridLayout(ver);
+    gv->setHorizontalSpacing(6);
+    gv->addWidget(rotulo(QStringLiteral("Utilização")), 0, 0);
+    utilizacao_ = new QLineEdit;
+    utilizacao_->setObjectName(QStringLiteral("TextUtilizacao"));
+    utilizacao_->setReadOnly(true);
+    utilizacao_->setFocusPolicy(Qt::ClickFocus);
+    utilizacao_->setAlignment(Qt::AlignRight);
+    utilizacao_->setFixedWidth(72);
+    utilizacao_->setToolTip(QStringLiteral("Quanto da resistência da seção detalhada os esforços de cálculo usam, "
+                                           "por compatibilidade de deformações (100 % no limite)"));
+    filtroNenhum_->instala(utilizacao_);
+    gv->addWidget(utilizacao_, 0, 1);
+    auto* diagrama = new QPushButton(QStringLiteral("Dia&grama..."));
+    diagrama->setObjectName(QStringLiteral("cmdDiagrama"));
+    diagrama->setAutoDefault(false);
+    diagrama->setToolTip(QStringLiteral("Diagrama de interação N–M da seção detalhada"));
+    connect(diagrama, &QPushButton::clicked, this, &MainWindow::abreDiagrama);
+    gv->addWidget(diagrama, 0, 2);
+    // The warning keeps its room, so that the window does not grow when it speaks.
+    avisoVerificacao_ = new QLabel;
+    avisoVerificacao_->setObjectName(QStringLiteral("lblAvisoVerificacao"));
+    avisoVerificacao_->setWordWrap(true);
+    avisoVerificacao_->setStyleSheet(QStringLiteral("color: rgb(205, 30, 30); font-weight: bold;"));
+    avisoVerificacao_->setFixedHeight(2 * avisoVerificacao_->fontMetrics().lineSpacing() + 2);
+    gv->addWidget(avisoVerificacao_, 1, 0, 1, 3);
+    gv->setColumnStretch(2, 1);
+    v->addWidget(ver);
+
     auto* err = quadro("Erros", "Frame14");
     auto* gr = new QHBoxLayout(err);
     auto* t30 = resultado(f.Text30, QStringLiteral("Text30"), 0);
@@ -538,6 +574,10 @@ QWidget* MainWindow::montaResultados()
     gr->addWidget(t30);
     v->addWidget(err);
     v->addStretch();
+    // The column of results is the tallest: its frames hold their boxes close.
+    for (auto* q : coluna->findChildren<QGroupBox*>())
+        if (q->layout())
+            q->layout()->setContentsMargins(8, 4, 8, 4);
     coluna->setFixedWidth(270);
     return coluna;
 }
@@ -658,6 +698,7 @@ void MainWindow::atualiza()
             desenho_->clearSection();
     }
     desenho_->setPlaceholderText(f.Image1Visible ? QStringLiteral("Pilarix Normal") : QString());
+    mostraVerificacao();
 }
 
 void MainWindow::executa(const std::function<void()>& handler)
@@ -748,6 +789,66 @@ void MainWindow::exportaDesenho()
     std::string erro;
     if (!render::exportDrawing(*p.Desenho, nome, p.Escala > 0 ? p.Escala : 5, erro))
         dialogos_->notice(erro);
+}
+
+namespace {
+// The check of the detailed section in the units the user chose for Nd and Md.
+DiagramData dadosDoDiagrama(const Program& p)
+{
+    DiagramData d;
+    const auto& f = p.Form1;
+    d.forceUnit = qs(f.Combo4.Text);
+    d.momentUnit = qs(f.Combo5.Text);
+    const auto& v = *p.Verificacao;
+    const double fn = fatorDaUnidade(f.Combo4.Text).value_or(1);
+    const double fm = fatorDaUnidade(f.Combo5.Text).value_or(1);
+    for (const auto& [n, m] : v.curve)
+        d.curve.emplace_back(m / fm, n / fn);
+    d.points.push_back({v.nSd / fn, v.mSd / fm, QStringLiteral("Sd"), v.utilisation, true});
+    if (v.mRd)
+        d.mRd = *v.mRd / fm;
+    d.nRdMax = v.nRdMax / fn;
+    d.nRdMin = v.nRdMin / fn;
+    return d;
+}
+} // namespace
+
+void MainWindow::mostraVerificacao()
+{
+    const auto& v = program_->Verificacao;
+    QPalette pal = utilizacao_->palette();
+    if (!v) {
+        utilizacao_->clear();
+        avisoVerificacao_->clear();
+    } else {
+        utilizacao_->setText(utilisationText(v->utilisation));
+        pal.setColor(QPalette::Text, utilisationColour(v->utilisation));
+        const bool naoResiste = !(v->utilisation <= 1);
+        avisoVerificacao_->setText(naoResiste ? QStringLiteral("A seção detalhada NÃO resiste aos esforços "
+                                                               "(utilização %1).")
+                                                    .arg(utilisationText(v->utilisation))
+                                              : QString());
+    }
+    utilizacao_->setPalette(pal);
+    if (diagrama_ && diagrama_->isVisible()) {
+        if (v)
+            diagrama_->mostra(dadosDoDiagrama(*program_));
+        else
+            diagrama_->limpa();
+    }
+}
+
+void MainWindow::abreDiagrama()
+{
+    if (!diagrama_)
+        diagrama_ = new InteractionDialog(this);
+    if (program_->Verificacao)
+        diagrama_->mostra(dadosDoDiagrama(*program_));
+    else
+        diagrama_->limpa();
+    diagrama_->show();
+    diagrama_->raise();
+    diagrama_->activateWindow();
 }
 
 void MainWindow::abreSobre()

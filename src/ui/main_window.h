@@ -19,6 +19,7 @@ class QAction;
 class QCheckBox;
 class QComboBox;
 class QGroupBox;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
@@ -31,6 +32,7 @@ class SectionCanvas;
 class OtherValuesDialog;
 class DEstimateDialog;
 class SolutionsDialog;
+class InteractionDialog;
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -60,6 +62,7 @@ public slots:
     void abreSolucoes();
     void abreSobre();
     void exportaDesenho();
+    void abreDiagrama();
 
 private:
     void montaMenus();
@@ -102,6 +105,10 @@ private:
     QPointer<OtherValuesDialog> outros_;
     QPointer<DEstimateDialog> estimativa_;
     QPointer<SolutionsDialog> solucoes_;
+    QPointer<InteractionDialog> diagrama_;
+    QLineEdit* utilizacao_ = nullptr;
+    QLabel* avisoVerificacao_ = nullptr;
+    void mostraVerificacao();
     bool ocupado_ = false;
 };
 

@@ -3,6 +3,7 @@
 // has: the factors are not to be "corrected" to 9.80665.
 
 #include "window/program.h"
+#include "window/units.h"
 
 #include <array>
 #include <utility>
@@ -45,6 +46,14 @@ const std::array<std::pair<const char*, double>, 29> kUnidades{{
     {"MPa", 10},
 }};
 } // namespace
+
+std::optional<double> fatorDaUnidade(std::string_view nome)
+{
+    for (const auto& [n, fator] : kUnidades)
+        if (nome == n)
+            return fator;
+    return std::nullopt;
+}
 
 void Program::Unidades30()
 {

@@ -599,3 +599,32 @@ TEST(UiDesenho, ExportsTheDrawingInTheFormatOfItsName)
     j.acao("mnuItemExportar")->trigger();
     ASSERT_EQ(j.dialogs.records.size(), avisos + 1) << "an unknown format is a message";
 }
+
+// ---- the check by strain compatibility ----
+
+TEST(UiVerificacao, UtilisationShowsAtEveryCalculationAndWarnsWhereTheSectionDoesNotCarry)
+{
+    Janela j;
+    j.digita("Text3", "4");
+    j.clica("Command1");
+    EXPECT_EQ(j.texto("TextUtilizacao"), "83.5 %");
+    auto* aviso = j.w.findChild<QLabel*>(QStringLiteral("lblAvisoVerificacao"));
+    EXPECT_TRUE(aviso->text().isEmpty());
+
+    // Pure bending right after a compressed column: the method carries μ0 and λ and
+    // finds zone O with the minimum steel, which does not carry the moment.
+    j.digita("Text16", "0");
+    j.digita("Text17", "6300");
+    j.clica("Command1");
+    ASSERT_EQ(j.texto("Text8"), "4");
+    EXPECT_GT(j.p.Verificacao->utilisation, 1);
+    EXPECT_TRUE(aviso->text().contains(QStringLiteral("NÃO resiste"))) << aviso->text().toStdString();
+
+    j.clica("cmdDiagrama");
+    auto* dialogo = j.w.findChild<QDialog*>(QStringLiteral("frmDiagrama"));
+    ASSERT_NE(dialogo, nullptr);
+    EXPECT_TRUE(dialogo->isVisible());
+    j.digita("Text18", "0");
+    j.clica("Command1");
+    EXPECT_EQ(j.texto("TextUtilizacao"), "") << "no detailed section, no utilisation";
+}
