@@ -56,6 +56,8 @@ std::string_view clauseOf(CheckId id)
     case CheckId::GammaSZero:
     case CheckId::BarBelowRequired:
     case CheckId::MinimumRatioNeedsLargerBar:
+    case CheckId::FixedBarBelowRequired:
+    case CheckId::FixedBarBelowMinimum:
         return {};
     }
     return {};
@@ -124,6 +126,22 @@ Check minimumRatioNeedsLargerBar()
                    "Taxa de armadura mínima exige barras aço com bitola maior do que o existente");
     c.namesClause = false;
     return c;
+}
+
+Check fixedBarBelowRequired(double diameter, double barArea, double requiredPerBar)
+{
+    return make(CheckId::FixedBarBelowRequired,
+                "A bitola fixada, " + Str(10 * diameter) + " mm, tem " + Format(barArea, "##0.00")
+                    + " cm2 por barra, menos que os " + Format(requiredPerBar, "##0.00")
+                    + " cm2 por barra que a seção exige. Escolha uma bitola maior ou marque Automático.");
+}
+
+Check fixedBarBelowMinimum(double diameter, double providedArea, double minimumArea)
+{
+    return make(CheckId::FixedBarBelowMinimum,
+                "Com a bitola fixada, " + Str(10 * diameter) + " mm, a seção tem " + Format(providedArea, "##0.00")
+                    + " cm2 de armadura, menos que a armadura mínima de " + Format(minimumArea, "##0.00")
+                    + " cm2. Escolha uma bitola maior ou marque Automático.");
 }
 
 Check predefinedStirrupTooThin(double minimumDiameter)

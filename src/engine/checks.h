@@ -26,6 +26,8 @@ enum class CheckId {
     BarAboveEighthOfSide,
     MaximumRatio,
     MinimumRatioNeedsLargerBar,
+    FixedBarBelowRequired,
+    FixedBarBelowMinimum,
     // stirrups
     PredefinedStirrupTooThin,
     // spacing
@@ -67,6 +69,10 @@ Check barBelowRequired();
 Check barAboveEighthOfSide(double barDiameter, double smallerSide);
 Check maximumRatio(double asReal, double asMax);
 Check minimumRatioNeedsLargerBar();
+// The bar the engineer fixed: its diameter (cm), its area and the area needed, per bar (cm²).
+Check fixedBarBelowRequired(double diameter, double barArea, double requiredPerBar);
+// ... and the provided and minimum areas of the section (cm²).
+Check fixedBarBelowMinimum(double diameter, double providedArea, double minimumArea);
 Check predefinedStirrupTooThin(double minimumDiameter);
 // `limit` is the text naming the governing limit (see the limit texts below).
 Check freeSpacing(bool widthFaces, double spacing, std::string_view limit, double minimum);

@@ -242,9 +242,25 @@ void Passes::areaByStrainCompatibility(ColumnResult& r, bool zoneFound)
     startFloatingPointWatch();
 }
 
-// The thinnest allowed bar for the area required per bar, then the 1/8 rule.
+// The thinnest allowed bar for the area required per bar, then the 1/8 rule. A bar
+// the engineer fixed is taken as it is, and every rule still applies to it.
 void Passes::chooseBar(ColumnResult& r)
 {
+    if (in_.fixedBarIndex != 0 && !silent()) {
+        const Bar& fixed = bar(in_.fixedBarIndex);
+        r.bar = BarChoice{fixed.index, fixed.diameter, fixed.area, s.NBarrasTotal * fixed.area, fixed.mass};
+        s.Indice = fixed.index;
+        s.AsBarra = fixed.area;
+        s.AsReal = s.NBarrasTotal * fixed.area;
+        s.DiamLong = fixed.diameter;
+        s.PesoLinearLong = fixed.mass;
+        if (fixed.area < s.AsNecBarra)
+            fail(r, checks::fixedBarBelowRequired(fixed.diameter, fixed.area, s.AsNecBarra));
+        if (exceedsEighthOfSide(s.DiamLong, s.MenorDim))
+            fail(r, checks::barAboveEighthOfSide(s.DiamLong, s.MenorDim));
+        check("AsReal23");
+        return;
+    }
     const auto bar = smallestBar(s.AsNecBarra, s.NBarrasTotal, in_.maxBarIndex);
     if (!bar) {
         s.AsBarra = 0;
@@ -469,7 +485,9 @@ void Passes::limitSteel(ColumnResult& r)
     s.AsMin = l.asMin;
     s.AsMinBarra = l.asMinPerBar;
     s.AsMax = l.asMax;
-    if (s.AsReal < s.AsMin) {
+    if (s.AsReal < s.AsMin && in_.fixedBarIndex != 0 && !silent()) {
+        fail(r, checks::fixedBarBelowMinimum(s.DiamLong, s.AsReal, s.AsMin));
+    } else if (s.AsReal < s.AsMin) {
         s.AsNec = s.AsMin;
         s.AsNecBarra = s.AsNec / s.NBarrasTotal;
         if (const auto b = smallestBar(s.AsNecBarra, s.NBarrasTotal, in_.maxBarIndex)) {

@@ -53,6 +53,7 @@ struct ColumnInput {
     double precision = 0.0001;
     double aggregate = 0;     // largest aggregate, cm
     int maxBarIndex = 11;     // largest longitudinal bar allowed (catalogue index, 4 to 11)
+    int fixedBarIndex = 0;    // the bar the engineer fixed (catalogue index 4 to 11); 0: the calculation chooses
     double maxStirrupIndex = 4; // largest stirrup allowed (catalogue index, 1 to 4)
     // cover
     double deltaC = 1; // execution tolerance Δc, cm (1 or 0.5)

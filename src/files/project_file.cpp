@@ -3,9 +3,11 @@
 
 #include "window/program.h"
 
+#include "engine/catalogue.h"
 #include "files/field_reader.h"
 
 #include <array>
+#include <cctype>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
@@ -214,11 +216,14 @@ std::string aspas(const std::string& s) { return "\"" + s + "\""; }
 
 // Writes the records of the forms; false with the reason in ErroArquivo when the
 // file cannot be written.
-bool gravaRegistros(const Forms& origem, const std::string& nome, std::string& erro)
+bool gravaRegistros(const Forms& origem, const std::vector<std::string>& extras, const std::string& nome,
+                    std::string& erro)
 {
     std::string texto;
     for (const auto& r : registros())
         texto += r.valor(origem) + "\r\n";
+    for (const auto& e : extras)
+        texto += e + "\r\n";
 
     std::error_code ec;
     if (std::filesystem::is_directory(std::filesystem::path(nome), ec)) {
@@ -266,6 +271,116 @@ bool leCampos(const std::string& nome, std::vector<std::string>& campos, std::st
     }
     campos = camposDelimitados(textoUtf8(bytes.str()));
     return true;
+}
+
+// ---- the records after the 39: load cases and the fixed bar ----
+//
+// A project of one case and no fixed bar ends at record 39, byte for byte as it
+// always has, and a reader that stops there still reads it. After them:
+//   Caso;NOME                 the name of the first case (its forces are records 12, 13)
+//   Caso;NOME;Nd;Md           each further case, its forces as typed in Nd's and Md's units
+//   Bitola fixa;16 mm (5/8'')  the longitudinal bar fixed with "Automático" clear
+
+constexpr const char* kCaso = "Caso";
+constexpr const char* kBitolaFixa = "Bitola fixa";
+
+std::vector<std::string> partes(const std::string& s)
+{
+    std::vector<std::string> p;
+    std::size_t inicio = 0;
+    for (;;) {
+        const auto fim = s.find(';', inicio);
+        p.push_back(s.substr(inicio, fim - inicio));
+        if (fim == std::string::npos)
+            return p;
+        inicio = fim + 1;
+    }
+}
+
+// A force as the boxes hold it: a plain number, "." as the decimal point.
+bool numero(const std::string& s)
+{
+    std::size_t i = 0;
+    if (i < s.size() && (s[i] == '-' || s[i] == '+'))
+        ++i;
+    bool digitos = false;
+    while (i < s.size() && std::isdigit(static_cast<unsigned char>(s[i])))
+        ++i, digitos = true;
+    if (i < s.size() && s[i] == '.')
+        for (++i; i < s.size() && std::isdigit(static_cast<unsigned char>(s[i]));)
+            ++i, digitos = true;
+    if (digitos && i < s.size() && (s[i] == 'e' || s[i] == 'E')) {
+        std::size_t j = i + 1;
+        if (j < s.size() && (s[j] == '-' || s[j] == '+'))
+            ++j;
+        const std::size_t k = j;
+        while (j < s.size() && std::isdigit(static_cast<unsigned char>(s[j])))
+            ++j;
+        i = j > k ? j : i;
+    }
+    return digitos && i == s.size();
+}
+
+std::vector<std::string> registrosExtras(const Program& p)
+{
+    std::vector<std::string> e;
+    if (!p.OutrosCasos.empty()) {
+        e.push_back(std::string(kCaso) + ";" + p.NomeDoCaso1);
+        for (const auto& c : p.OutrosCasos)
+            e.push_back(std::string(kCaso) + ";" + c.nome + ";" + c.nd + ";" + c.md);
+    }
+    if (p.BitolaFixa != 0)
+        e.push_back(std::string(kBitolaFixa) + ";" + std::string(engine::bar(p.BitolaFixa).label));
+    return e;
+}
+
+struct Extras {
+    std::string nomeDoCaso1 = "1";
+    std::vector<CasoDeCarga> casos;
+    int bitolaFixa = 0;
+};
+
+// The records after the 39, or the first that is broken, told in `erro`.
+Extras leExtras(const std::vector<std::string>& campos, const std::string& nome, std::string& erro)
+{
+    Extras x;
+    bool primeiroCaso = true;
+    for (std::size_t i = kRegistros; i < campos.size() && erro.empty(); ++i) {
+        const std::string& v = campos[i];
+        if (v.empty())
+            continue;
+        const auto p = partes(v);
+        auto quebrado = [&](const std::string& porque) {
+            erro = "Arquivo " + aspas(nome) + ", registro " + std::to_string(i + 1) + " " + aspas(v) + ": " + porque
+                   + ". Nenhum valor foi carregado.";
+        };
+        if (p[0] == kCaso) {
+            if (primeiroCaso && p.size() == 2 && !p[1].empty()) {
+                x.nomeDoCaso1 = p[1];
+            } else if (primeiroCaso) {
+                quebrado("o primeiro caso de carga tem só o nome (Caso;NOME), suas forças são Nd e Md");
+            } else if (p.size() != 4 || p[1].empty()) {
+                quebrado("um caso de carga tem nome, Nd e Md (Caso;NOME;Nd;Md)");
+            } else if (!numero(p[2]) || !numero(p[3])) {
+                quebrado("Nd e Md de um caso de carga são números com ponto decimal");
+            } else {
+                x.casos.push_back({p[1], p[2], p[3]});
+            }
+            primeiroCaso = false;
+        } else if (p[0] == kBitolaFixa) {
+            const int k = p.size() == 2 ? engine::barIndexByLabel(p[1]) : 0;
+            if (k < engine::kFirstLongitudinalBar)
+                quebrado("a bitola fixada deve ser uma das barras longitudinais, de \"10 mm (3/8'')\" a \"40 mm\"");
+            else
+                x.bitolaFixa = k;
+        } else {
+            quebrado("depois dos 39 registros vêm só casos de carga (Caso;...) e a bitola fixada (Bitola fixa;...)");
+        }
+    }
+    if (erro.empty() && !primeiroCaso && x.casos.empty())
+        erro = "Arquivo " + aspas(nome) + ": o nome do primeiro caso de carga sem outros casos depois dele."
+               + " Nenhum valor foi carregado.";
+    return x;
 }
 
 // The first record whose value does not fit its control, or an empty text.
@@ -322,7 +437,7 @@ void mostraErroDeArquivo(Program& p)
 void Program::Grava32()
 {
     ErroArquivo.clear();
-    if (!gravaRegistros(*this, NomeArquivo, ErroArquivo))
+    if (!gravaRegistros(*this, registrosExtras(*this), NomeArquivo, ErroArquivo))
         mostraErroDeArquivo(*this);
 }
 
@@ -330,8 +445,11 @@ void Program::Carrega33()
 {
     ErroArquivo.clear();
     std::vector<std::string> campos;
+    Extras extras;
     if (leCampos(NomeArquivo, campos, ErroArquivo))
         ErroArquivo = validaCampos(campos, NomeArquivo);
+    if (ErroArquivo.empty())
+        extras = leExtras(campos, NomeArquivo, ErroArquivo);
     if (!ErroArquivo.empty()) {
         // Nothing is half-loaded: the window keeps every value it had.
         mostraErroDeArquivo(*this);
@@ -340,6 +458,9 @@ void Program::Carrega33()
     Zera31();
     for (std::size_t i = 0; i < kRegistros; ++i)
         registros()[i].atribui(*this, campos[i]);
+    NomeDoCaso1 = extras.nomeDoCaso1;
+    OutrosCasos = extras.casos;
+    BitolaFixa = extras.bitolaFixa;
 }
 
 void Program::Form_Load()
@@ -350,7 +471,7 @@ void Program::Form_Load()
         // The first start in a folder: the defaults of the window become the file.
         ErroArquivo.clear();
         const Forms padrao{};
-        if (!gravaRegistros(padrao, NomeArquivo, ErroArquivo)) {
+        if (!gravaRegistros(padrao, {}, NomeArquivo, ErroArquivo)) {
             mostraErroDeArquivo(*this);
             return;
         }

@@ -56,6 +56,12 @@ struct SolutionRow {
     double LambdaC1 = 0;      // λ of the first reference field in the candidate's last pass
 };
 
+// A load case beyond the first, as the cases table holds it: its forces as typed, in
+// the units of Nd and Md of the main window.
+struct CasoDeCarga {
+    std::string nome, nd, md;
+};
+
 class Program : public WindowReading, public Forms {
 public:
     explicit Program(DialogPort& dialogs) : dialogs_(&dialogs) {}
@@ -134,6 +140,14 @@ public:
     void Form11Escolhe();
     void Form11BotaoMais();
     void Form11BotaoMenos();
+
+    // ---- load cases and the fixed bar (saved after the 39 records of a project) ----
+    // The main window's Nd and Md are the first case; these are the others.
+    std::string NomeDoCaso1 = "1";
+    std::vector<CasoDeCarga> OutrosCasos;
+    // The longitudinal bar clicked in "Bitola" with "Automático" clear (catalogue
+    // index 4 to 11); 0 when none is fixed.
+    int BitolaFixa = 0;
 
     // ---- project files (files/project_file.cpp) ----
     std::string NomeArquivo;

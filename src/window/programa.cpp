@@ -156,6 +156,8 @@ engine::ColumnInput Program::entradaDoCalculo() const
     in.precision = Precisao;
     in.aggregate = DiamAgregado;
     in.maxBarIndex = IndiceBitolaMax;
+    // "Automático" ticked lets the calculation choose; clear, the bar clicked is used.
+    in.fixedBarIndex = f.Check2.ticked() ? 0 : BitolaFixa;
     in.maxStirrupIndex = IndiceEstriboMax;
     // Δc by the tolerance chosen; with neither chosen (a file may say so) it stays
     // as the last calculation took it.
