@@ -13,6 +13,42 @@ namespace {
 // Room for the whole list is taken at once when it is modest; past this the list
 // grows as solutions come.
 constexpr double kReserveLimit = 1 << 16;
+
+// The case of `cases` needing the most steel for this arrangement (the first of
+// equal ones), each designed from a fresh start.
+const LoadCase& governingCase(ColumnInput column, const std::vector<LoadCase>& cases)
+{
+    std::size_t g = 0;
+    double most = -1;
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        column.Nd = cases[i].Nd;
+        column.Md = cases[i].Md;
+        Memory fresh;
+        const ColumnResult d = design(column, fresh);
+        if (d.designed && !d.failure && d.design.asNec > most) {
+            most = d.design.asNec;
+            g = i;
+        }
+    }
+    return cases[g];
+}
+
+// The candidate's detailed section carries every case.
+bool carriesEveryCase(const ColumnInput& column, const MethodState& s, const std::vector<LoadCase>& cases)
+{
+    try {
+        const ReinforcedSection section =
+            rectangularColumn(column.base, column.depth, s.dLinha, column.barsOnWidthFace, column.barsOnDepthFace,
+                              s.AsBarra, designConcrete(column.fck, column.gammaC),
+                              designSteel(column.steel, column.gammaS, column.Es));
+        for (const double u : caseUtilisations(section, s.GamaN, cases))
+            if (!(u <= 1))
+                return false;
+        return true;
+    } catch (const CalcError&) {
+        return false;
+    }
+}
 } // namespace
 
 SearchResult search(const SearchInput& input, Memory& memory, MethodState& state)
@@ -36,7 +72,18 @@ SearchResult search(const SearchInput& input, Memory& memory, MethodState& state
                     r.lastStirrupIndex = static_cast<int>(s);
                     r.last.reset();
                     const Bar& stirrup = bar(static_cast<int>(s));
-                    ColumnResult c = calculateCandidate(column, {stirrup.diameter, stirrup.mass}, memory, state);
+                    const bool severalCases = input.cases.size() >= 2;
+                    ColumnInput tried = column;
+                    Memory fresh;
+                    if (severalCases) {
+                        const LoadCase& g = governingCase(column, input.cases);
+                        tried.Nd = g.Nd;
+                        tried.Md = g.Md;
+                    }
+                    ColumnResult c = calculateCandidate(tried, {stirrup.diameter, stirrup.mass},
+                                                        severalCases ? fresh : memory, state);
+                    if (c.passedSearch && severalCases && !carriesEveryCase(tried, state, input.cases))
+                        c.passedSearch = false;
                     ++r.candidates;
                     if (c.dLinhaText)
                         r.dLinhaText = c.dLinhaText;

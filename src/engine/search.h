@@ -11,6 +11,7 @@
 //   search(input, memory, state)    the same on the caller's method variables
 
 #include "engine/column.h"
+#include "engine/load_cases.h"
 
 #include <optional>
 #include <string>
@@ -20,6 +21,10 @@ namespace pilarix::engine {
 
 struct SearchInput {
     ColumnInput column;          // the bar counts and d' of it are the search's
+    // Two or more load cases: each candidate is designed for the case needing the
+    // most steel (each case from a fresh start of the method) and is a solution only
+    // if its detailed section carries every case.
+    std::vector<LoadCase> cases;
     double maxBarsOnWidthFace = 2; // bars that fit on a face of width b
     double maxBarsOnDepthFace = 2; // bars that fit on a face of depth h
 };

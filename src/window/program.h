@@ -11,6 +11,7 @@
 #include "engine/memory.h"
 #include "engine/method_state.h"
 #include "engine/search.h"
+#include "engine/load_cases.h"
 #include "engine/verification.h"
 #include "window/dialog_port.h"
 #include "window/dialog_record.h"
@@ -60,6 +61,16 @@ struct SolutionRow {
 // the units of Nd and Md of the main window.
 struct CasoDeCarga {
     std::string nome, nd, md;
+};
+
+// What the calculation of several load cases found for each.
+struct ResultadoDoCaso {
+    std::string nome;
+    double Nd = 0, Md = 0;     // kgf, kgf·cm, before γn
+    engine::Zone zona = engine::Zone::None;
+    double betaX = 0, asNec = 0;
+    double utilizacao = 0;     // on the detailed section; NaN where it could not be verified
+    bool governa = false;
 };
 
 class Program : public WindowReading, public Forms {
@@ -148,6 +159,10 @@ public:
     // The longitudinal bar clicked in "Bitola" with "Automático" clear (catalogue
     // index 4 to 11); 0 when none is fixed.
     int BitolaFixa = 0;
+    // Every case of the last calculation with several (empty with one case).
+    std::vector<ResultadoDoCaso> ResultadosDosCasos;
+    // The cases in the program's units, the first from Nd and Md as Ler02 read them.
+    std::vector<engine::LoadCase> casosDeCarga();
 
     // ---- project files (files/project_file.cpp) ----
     std::string NomeArquivo;
@@ -181,6 +196,7 @@ private:
     void programa0Passes();
     void passeInterativo();
     void passeSilencioso();
+    void calculaCasos(engine::Questions& perguntas);
     void finalDeErro();
 
     DialogPort* dialogs_;

@@ -7,74 +7,13 @@
 #include "base/number_text.h"
 #include "engine/column.h"
 #include "engine/failure.h"
+#include "window/window_questions.h"
 
 #include <cfenv>
 
 namespace pilarix {
 
 namespace {
-
-// The engine's questions, asked in the window's own dialogs through its port.
-class PerguntasDaJanela : public engine::Questions {
-public:
-    explicit PerguntasDaJanela(Program& p) : p_(p) {}
-
-    engine::CoverAnswer askCover(const engine::CoverQuestion& q) override
-    {
-        auto& f = p_.Form4;
-        f.Label2.Caption = q.message;
-        f.Label3.Caption = std::string(q.clause);
-        // The first button's caption stays as it was last set where the question
-        // names none.
-        if (q.correctCaption)
-            f.Command2.Caption = std::string(*q.correctCaption);
-        const int resposta = p_.dialogs().askCover(f);
-        p_.MensagensDoCalculo.push_back({DialogRecord::Kind::Cover, f.Caption, f.Label2.Caption, f.Label3.Caption,
-                                         f.Command2.Caption, {}, resposta,
-                                         resposta == 1 ? f.Command2.Caption : f.Command1.Caption});
-        return resposta == 1 ? engine::CoverAnswer::Correct : engine::CoverAnswer::Ignore;
-    }
-
-    int chooseStirrup(const engine::StirrupQuestion& q) override
-    {
-        auto& f = p_.Form7;
-        f.Label1.Caption = q.heading;
-        f.Label2.Caption = q.explanation;
-        for (int i = 0; i < q.count && i < 4; ++i) {
-            f.Option1[static_cast<std::size_t>(i)].Caption = q.options[static_cast<std::size_t>(i)];
-            f.Option1[static_cast<std::size_t>(i)].Enabled = true;
-        }
-        for (auto& o : f.Option1)
-            o.Value = false;
-        p_.dialogs().chooseStirrup(f);
-        // An option chosen while disabled counts as the last one, the least steel.
-        int escolhida = engine::kLeastSteelOption;
-        for (int i = 0; i < q.count && i < 4; ++i) {
-            const auto& o = f.Option1[static_cast<std::size_t>(i)];
-            if (o.Value && o.Enabled) {
-                escolhida = i;
-                break;
-            }
-        }
-        DialogRecord r{DialogRecord::Kind::Stirrup, f.Caption, f.Label1.Caption + f.Label2.Caption, {}, {}, {},
-                       escolhida, f.Option1[static_cast<std::size_t>(escolhida)].Caption};
-        for (const auto& o : f.Option1)
-            if (!o.Caption.empty())
-                r.opcoes.push_back(o.Caption);
-        p_.MensagensDoCalculo.push_back(std::move(r));
-        // The dialog is cleared for its next use.
-        for (std::size_t i = 0; i < 4; ++i) {
-            f.Option1[i].Caption.clear();
-            f.Option1[i].Enabled = false;
-        }
-        return escolhida;
-    }
-
-    void tell(const engine::Check&) override { p_.MostraErro(); }
-
-private:
-    Program& p_;
-};
 
 engine::StirrupMode modoDoEstribo(const Form1Model& f)
 {
@@ -205,7 +144,12 @@ void Program::passeInterativo()
 {
     PerguntasDaJanela perguntas(*this);
     Entrada = entradaDoCalculo();
-    Resultado = engine::calculate(Entrada, perguntas, memoria, metodo);
+    // With load cases beyond the first, the one needing the most steel is detailed.
+    const bool casos = !OutrosCasos.empty();
+    if (casos)
+        calculaCasos(perguntas);
+    else
+        Resultado = engine::calculate(Entrada, perguntas, memoria, metodo);
     const engine::ColumnResult& r = *Resultado;
     if (r.dLinhaText)
         Form1.Text3.Text = *r.dLinhaText;
@@ -227,7 +171,8 @@ void Program::passeInterativo()
     Desenho = r.geometry;
     ++VersaoDoDesenho;
     Form1.CotasVisiveis = true;
-    Verificacao = engine::verify(Entrada, r);
+    if (!casos)
+        Verificacao = engine::verify(Entrada, r);
     std::feclearexcept(FE_ALL_EXCEPT);
     Imprime37();
     engine::checkFloatingPoint("Imprime37", {Base, Altura, nBase, static_cast<double>(nAltura), metodo.dLinha, Nd, Md,

@@ -22,6 +22,7 @@ void Program::Zera31()
     ErroEntrada = "n";
     Resultado.reset();
     Verificacao.reset();
+    ResultadosDosCasos.clear();
 }
 
 void Program::Imprime37()

@@ -124,6 +124,8 @@ void buscaMelhorSolucao(Program& p)
         in.column = p.entradaDoCalculo();
         in.maxBarsOnWidthFace = p.nMaxBase;
         in.maxBarsOnDepthFace = p.nMaxAltura;
+        if (!p.OutrosCasos.empty())
+            in.cases = p.casosDeCarga();
         const engine::SearchResult r = engine::search(in, p.memoria, p.metodo);
         if (r.candidates > 0 || r.failure) {
             // Every candidate ran as a silent pass of the window: the last one's

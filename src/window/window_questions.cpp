@@ -1,0 +1,67 @@
+#include "window/window_questions.h"
+
+#include "window/program.h"
+
+namespace pilarix {
+
+engine::CoverAnswer PerguntasDaJanela::askCover(const engine::CoverQuestion& q)
+{
+    auto& f = p_.Form4;
+    f.Label2.Caption = q.message;
+    f.Label3.Caption = std::string(q.clause);
+    // The first button's caption stays as it was last set where the question names none.
+    if (q.correctCaption)
+        f.Command2.Caption = std::string(*q.correctCaption);
+    const int resposta = p_.dialogs().askCover(f);
+    p_.MensagensDoCalculo.push_back({DialogRecord::Kind::Cover, f.Caption, f.Label2.Caption, f.Label3.Caption,
+                                     f.Command2.Caption, {}, resposta,
+                                     resposta == 1 ? f.Command2.Caption : f.Command1.Caption});
+    return resposta == 1 ? engine::CoverAnswer::Correct : engine::CoverAnswer::Ignore;
+}
+
+int PerguntasDaJanela::chooseStirrup(const engine::StirrupQuestion& q)
+{
+    auto& f = p_.Form7;
+    f.Label1.Caption = q.heading;
+    f.Label2.Caption = q.explanation;
+    for (int i = 0; i < q.count && i < 4; ++i) {
+        f.Option1[static_cast<std::size_t>(i)].Caption = q.options[static_cast<std::size_t>(i)];
+        f.Option1[static_cast<std::size_t>(i)].Enabled = true;
+    }
+    for (auto& o : f.Option1)
+        o.Value = false;
+    p_.dialogs().chooseStirrup(f);
+    // An option chosen while disabled counts as the last one, the least steel.
+    int escolhida = engine::kLeastSteelOption;
+    for (int i = 0; i < q.count && i < 4; ++i) {
+        const auto& o = f.Option1[static_cast<std::size_t>(i)];
+        if (o.Value && o.Enabled) {
+            escolhida = i;
+            break;
+        }
+    }
+    DialogRecord r{DialogRecord::Kind::Stirrup, f.Caption, f.Label1.Caption + f.Label2.Caption, {}, {}, {},
+                   escolhida, f.Option1[static_cast<std::size_t>(escolhida)].Caption};
+    for (const auto& o : f.Option1)
+        if (!o.Caption.empty())
+            r.opcoes.push_back(o.Caption);
+    p_.MensagensDoCalculo.push_back(std::move(r));
+    // The dialog is cleared for its next use.
+    for (std::size_t i = 0; i < 4; ++i) {
+        f.Option1[i].Caption.clear();
+        f.Option1[i].Enabled = false;
+    }
+    return escolhida;
+}
+
+// The error state already holds the check when the calculation tells it; a check
+// of the load cases is put there too, so that the dialog shows its own words.
+void PerguntasDaJanela::tell(const engine::Check& c)
+{
+    p_.metodo.MensagemErro = c.text;
+    if (c.namesClause)
+        p_.metodo.ItemNorma = std::string(c.clause);
+    p_.MostraErro();
+}
+
+} // namespace pilarix
