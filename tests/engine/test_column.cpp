@@ -164,6 +164,15 @@ TEST(EngineColumn, ChecksThatStopOrFailACalculation)
          false, ErrorFlag::Failed, 0,
          {"Diâmetro das barras longitudinais devem ser superiores à maior bitola definida pelo usuário."}},
         {"the minimum chooses 16 mm", square, true, true, true, ErrorFlag::None, 8, {}},
+        // 4 bars of 40 mm in 35 x 35: within the 1/8 rule and the spacing, past 4 % of Ac
+        {"more than 4 % of Ac",
+         [&](ColumnInput& in) {
+             square(in), in.base = in.depth = 35, in.Nd = 280000;
+             in.stirrupMode = StirrupMode::Economic, in.correctCoverWithoutAsking = true;
+         },
+         true, true, false, ErrorFlag::Failed, 50,
+         {"A taxa de armadura excede o máximo permitido = 8,0%Ac em reigião de emendas. No caso temos 50.00cm2 que é "
+          "maior que 49.00cm2 correspondente a 4%Ac fora da região de emendas"}},
         {"the minimum needs a larger bar than allowed", [&](ColumnInput& in) { square(in), in.maxBarIndex = 4; },
          true, true, false, ErrorFlag::Failed, 3.2, {kNeedsLargerBar}},
     };

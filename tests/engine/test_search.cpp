@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using namespace pilarix;
 using namespace pilarix::engine;
 
@@ -44,6 +46,19 @@ TEST(EngineSearch, TheDefaultColumn)
     EXPECT_EQ(r.found[0].barsOnWidthFace, 2);
     EXPECT_EQ(r.found[0].barsOnDepthFace, 3);
     EXPECT_EQ(r.found[0].weight, 18);
+    // Equal weights keep the order they were found in.
+    auto foundAt = [&](const Solution& s) {
+        return std::find_if(r.found.begin(), r.found.end(), [&](const Solution& f) {
+            return f.barsOnWidthFace == s.barsOnWidthFace && f.barsOnDepthFace == s.barsOnDepthFace
+                   && f.stirrupIndex == s.stirrupIndex;
+        });
+    };
+    for (std::size_t i = 1; i < r.solutions.size(); ++i) {
+        ASSERT_LE(r.solutions[i - 1].weight, r.solutions[i].weight) << i;
+        if (r.solutions[i - 1].weight == r.solutions[i].weight) {
+            EXPECT_LT(foundAt(r.solutions[i - 1]), foundAt(r.solutions[i])) << i;
+        }
+    }
 }
 
 TEST(EngineSearch, AWallFindsNothingAndAFailureStopsTheSearch)
