@@ -43,7 +43,7 @@ TEST(Cli, BadArgumentsGiveOneLineAndStatus2)
 
 TEST(Cli, JsonHoldsTheCorrectedInputsAndInternalValues)
 {
-    const CliRun r = runArgs({"--set", "Text1=8", "--set", "Text4=9", "--json"});
+    const CliRun r = runArgs({"--sem-padrao", "--set", "Text1=8", "--set", "Text4=9", "--json"});
     ASSERT_EQ(r.status, 0) << r.err;
     const auto doc = nlohmann::json::parse(r.out);
     ASSERT_TRUE(doc.contains("Erros"));
@@ -64,14 +64,14 @@ TEST(Cli, JsonHoldsTheCorrectedInputsAndInternalValues)
 
 TEST(Cli, NumbersReadBackExactly)
 {
-    const CliRun r = runArgs({"--set", "Text16=333.3", "--json"});
+    const CliRun r = runArgs({"--sem-padrao", "--set", "Text16=333.3", "--json"});
     const auto doc = nlohmann::json::parse(r.out);
     EXPECT_EQ(doc["estado"]["Nd"].get<double>(), 333.3 * 100);
 }
 
 TEST(Cli, OptionTrueClearsItsGroupAndSetsAreAppliedInOrder)
 {
-    const CliRun r = runArgs({"--set", "Option2=True", "--set", "Text18=30", "--set", "Text18=19", "--json"});
+    const CliRun r = runArgs({"--sem-padrao", "--set", "Option2=True", "--set", "Text18=30", "--set", "Text18=19", "--json"});
     ASSERT_EQ(r.status, 0);
     const auto doc = nlohmann::json::parse(r.out);
     EXPECT_EQ(doc["estado"]["Fck"], 190);
