@@ -4,6 +4,7 @@
 // example of the README.
 
 #include "engine/column.h"
+#include "engine/verification.h"
 #include "support/tolerance.h"
 
 #include <gtest/gtest.h>
@@ -225,11 +226,8 @@ TEST(EngineColumn, ACalculationThatCannotGoOnNamesItsStage)
         std::function<void(ColumnInput&)> given;
         const char* inMessage;
     } rows[] = {
-        {"precision 0, mu0", [](ColumnInput& in) { in.precision = 0; }, "A busca de SMiZero14 não"},
-        {"precision 0, zone A", [](ColumnInput& in) { in.precision = 0, in.Nd = 200000, in.Md = 100000; },
-         "A busca de SProc_BC17 não"},
-        {"precision 0, zone E", [](ColumnInput& in) { in.precision = 0, in.Nd = -30000, in.Md = 200000; },
-         "A busca de SProc_BK19 não"},
+        {"forces no steel carries", [](ColumnInput& in) { in.precision = 0, in.Nd = 5e7; },
+         "excedem o que esta seção resiste"},
         {"one bar on a depth face", [](ColumnInput& in) { in.barsOnDepthFace = 1; }, "Erro de cálculo em SArran1R03"},
         {"more layers than the method holds", [](ColumnInput& in) { in.barsOnDepthFace = 600; }, "NBarCam(500)"},
         {"a largest bar outside the catalogue", [](ColumnInput& in) { in.maxBarIndex = 12; }, "AreaBitola(12)"},
@@ -250,6 +248,37 @@ TEST(EngineColumn, ACalculationThatCannotGoOnNamesItsStage)
         EXPECT_FALSE(c.ok()) << r.name;
         EXPECT_FALSE(c.detailed) << r.name;
         EXPECT_FALSE(c.geometry) << r.name;
+    }
+}
+
+// Where a march of the zones method cannot meet its tolerance, strain compatibility
+// gives the area and the calculation goes on to a detailed column.
+TEST(EngineColumn, AMarchThatCannotEndGivesWayToStrainCompatibility)
+{
+    struct Row {
+        const char* name;
+        std::function<void(ColumnInput&)> given;
+    } rows[] = {
+        {"precision 0, mu0", [](ColumnInput& in) { in.precision = 0; }},
+        {"precision 0, zone A", [](ColumnInput& in) { in.precision = 0, in.Nd = 200000, in.Md = 100000; }},
+        {"precision 0, zone E", [](ColumnInput& in) { in.precision = 0, in.Nd = -30000, in.Md = 200000; }},
+    };
+    for (const Row& r : rows) {
+        ColumnInput in;
+        in.dLinha.typed = 4;
+        r.given(in);
+        FixedAnswers answers;
+        Memory memory;
+        const ColumnResult c = calculate(in, answers, memory);
+        EXPECT_FALSE(c.failure) << r.name;
+        EXPECT_TRUE(c.byStrainCompatibility) << r.name;
+        EXPECT_TRUE(c.detailed) << r.name;
+        ASSERT_FALSE(c.checks.empty()) << r.name;
+        EXPECT_EQ(c.checks.front().id, CheckId::AreaByStrainCompatibility) << r.name;
+        // The area is the one that puts the design point on the curve of the same layout.
+        const auto v = verify(in, c);
+        ASSERT_TRUE(v && v->asCompat) << r.name;
+        EXPECT_NEAR(c.design.asNec, *v->asCompat, 1e-6) << r.name;
     }
 }
 

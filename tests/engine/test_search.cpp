@@ -72,7 +72,7 @@ TEST(EngineSearch, AWallFindsNothingAndAFailureStopsTheSearch)
     EXPECT_FALSE(w.failure);
 
     SearchInput broken = defaults();
-    broken.column.precision = 0;
+    broken.column.gammaC = 0; // a division by zero in the first stage of every candidate
     const SearchResult b = search(broken, memory);
     ASSERT_TRUE(b.failure);
     EXPECT_EQ(b.candidates, 1); // the same data would fail every candidate
