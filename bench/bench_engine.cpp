@@ -3,6 +3,7 @@
 // fresh start of the method each time.
 
 #include "engine/column.h"
+#include "engine/load_cases.h"
 #include "engine/search.h"
 
 #include <benchmark/benchmark.h>
@@ -92,4 +93,23 @@ BENCHMARK(BM_Search_40x120)->Unit(benchmark::kMillisecond);
 void BM_Search_100x500(benchmark::State& state) { searchSection(state, 100, 500); }
 BENCHMARK(BM_Search_100x500)->Unit(benchmark::kMillisecond);
 
+} // namespace
+
+namespace {
+// A column under ten load cases: every case designed, the governing one detailed and
+// verified in full (curve, M_Rd, AsCompat), the utilisation of every case.
+void BM_Calculate_TenLoadCases(benchmark::State& state)
+{
+    std::vector<engine::LoadCase> cases;
+    for (int i = 0; i < 10; ++i)
+        cases.push_back({"caso " + std::to_string(i + 1), 20000.0 + 6000 * i, 1500000.0 - 100000 * i});
+    engine::FixedAnswers answers;
+    engine::CasesResult r;
+    for (auto _ : state) {
+        r = engine::calculateCases(defaults(), cases, answers);
+        benchmark::DoNotOptimize(r);
+    }
+    state.SetLabel("governa " + r.cases[static_cast<std::size_t>(r.governing)].loadCase.name + (r.ok() ? ", Ok" : ", erro"));
+}
+BENCHMARK(BM_Calculate_TenLoadCases)->Unit(benchmark::kMicrosecond);
 } // namespace

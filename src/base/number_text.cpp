@@ -110,6 +110,30 @@ std::string Str(double x)
     return out + d.substr(0, intLen) + "." + d.substr(intLen);
 }
 
+bool IsNumber(std::string_view s)
+{
+    std::size_t i = 0;
+    if (i < s.size() && (s[i] == '-' || s[i] == '+'))
+        ++i;
+    bool digits = false;
+    while (i < s.size() && isDigit(s[i]))
+        ++i, digits = true;
+    if (i < s.size() && s[i] == '.')
+        for (++i; i < s.size() && isDigit(s[i]);)
+            ++i, digits = true;
+    if (digits && i < s.size() && (s[i] == 'e' || s[i] == 'E')) {
+        std::size_t j = i + 1;
+        if (j < s.size() && (s[j] == '-' || s[j] == '+'))
+            ++j;
+        const std::size_t k = j;
+        while (j < s.size() && isDigit(s[j]))
+            ++j;
+        if (j > k)
+            i = j;
+    }
+    return digits && i == s.size();
+}
+
 double Int(double x) { return std::floor(x); }
 
 double r2(double x) { return Int(x * 100 + 0.5) / 100; }

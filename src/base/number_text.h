@@ -13,6 +13,11 @@ namespace pilarix {
 // A number too large for a double raises CalcError.
 double Val(std::string_view text);
 
+// True when the whole text is one number as the boxes and files hold it: optional
+// sign, digits with "." as the decimal point, optional exponent ("400", "-12.5",
+// "1e3"); false for "", "12,5", "12 kN".
+bool IsNumber(std::string_view text);
+
 // The plain text form used where messages join numbers: up to 15 significant
 // digits, no trailing zeros, "." as decimal point, "0." before a fraction, exponent
 // form ("1E-05", "1.5E+15") only below 1E-4 or from 1E15 in magnitude.

@@ -1,13 +1,18 @@
 #include "cli/cli.h"
 
+#include "cli/batch.h"
+#include "cli/case_list.h"
 #include "cli/controls_by_name.h"
+#include "cli/options.h"
 #include "export/dxf_writer.h"
 #include "base/number_text.h"
 
 #include <cctype>
 #include <cmath>
 #include <filesystem>
+#include <algorithm>
 #include <ostream>
+#include <sstream>
 
 namespace pilarix {
 
@@ -35,87 +40,6 @@ const char* textoDoRecalculo(engine::Recalculation r)
 } // namespace
 
 namespace {
-
-constexpr const char* kUso =
-    "uso: pilarix-cli [ARQUIVO] [--set CONTROLE=VALOR]... [--melhor] [--cobrimento 1|2] "
-    "[--estribo K] [--salvar SAIDA] [--desenho SAIDA.dxf|.svg|.png] [--sem-padrao] [--json]";
-
-struct Options {
-    std::string file;
-    std::vector<std::pair<std::string, std::string>> sets;
-    bool melhor = false;
-    int cobrimento = 1;
-    int estribo = 4;
-    std::string salvar;
-    std::string desenho; // the section's drawing, in the format of the name
-    bool json = false;
-    bool semPadrao = false; // do not load "Padrão.txt" of the working directory
-};
-
-bool parse(const std::vector<std::string>& args, Options& o, std::string& error)
-{
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        const std::string& a = args[i];
-        auto next = [&](std::string& v) {
-            if (i + 1 >= args.size()) {
-                error = a + " precisa de um valor";
-                return false;
-            }
-            v = args[++i];
-            return true;
-        };
-        std::string v;
-        if (a == "--json") {
-            o.json = true;
-        } else if (a == "--melhor") {
-            o.melhor = true;
-        } else if (a == "--sem-padrao") {
-            o.semPadrao = true;
-        } else if (a == "--set") {
-            if (!next(v))
-                return false;
-            const auto eq = v.find('=');
-            if (eq == std::string::npos || eq == 0) {
-                error = "--set espera CONTROLE=VALOR, não \"" + v + "\"";
-                return false;
-            }
-            o.sets.emplace_back(v.substr(0, eq), v.substr(eq + 1));
-        } else if (a == "--cobrimento") {
-            if (!next(v))
-                return false;
-            if (v != "1" && v != "2") {
-                error = "--cobrimento aceita 1 ou 2, não \"" + v + "\"";
-                return false;
-            }
-            o.cobrimento = v[0] - '0';
-        } else if (a == "--estribo") {
-            if (!next(v))
-                return false;
-            if (v.size() != 1 || v[0] < '0' || v[0] > '4') {
-                error = "--estribo aceita 0 a 4, não \"" + v + "\"";
-                return false;
-            }
-            o.estribo = v[0] - '0';
-        } else if (a == "--salvar") {
-            if (!next(v))
-                return false;
-            o.salvar = v;
-        } else if (a == "--desenho") {
-            if (!next(v))
-                return false;
-            o.desenho = v;
-        } else if (a.size() > 1 && a[0] == '-') {
-            error = "opção desconhecida: " + a;
-            return false;
-        } else if (o.file.empty()) {
-            o.file = a;
-        } else {
-            error = "mais de um arquivo: " + o.file + " e " + a;
-            return false;
-        }
-    }
-    return true;
-}
 
 // Loads a project file as Carrega33 does; false (with the message) when it cannot.
 bool load(Program& p, const std::string& file, std::string& error)
@@ -408,6 +332,20 @@ nlohmann::ordered_json documentJson(const Program& program, const PolicyDialogs&
     }
     if (program.Verificacao)
         doc["verificacao"] = verificacaoJson(*program.Verificacao);
+    if (!program.ResultadosDosCasos.empty()) {
+        nlohmann::ordered_json casos = nlohmann::ordered_json::array();
+        for (const auto& c : program.ResultadosDosCasos)
+            casos.push_back({{"nome", c.nome},
+                             {"Nd", c.Nd},
+                             {"Md", c.Md},
+                             {"Zona", engine::zoneLetter(c.zona)},
+                             {"BetaX", c.betaX},
+                             {"AsNec", c.asNec},
+                             {"utilizacao", std::isfinite(c.utilizacao) ? nlohmann::ordered_json(c.utilizacao)
+                                                                        : nlohmann::ordered_json(nullptr)},
+                             {"governa", c.governa}});
+        doc["casos"] = casos;
+    }
     return doc;
 }
 
@@ -436,36 +374,47 @@ bool writeDrawing(const Program& p, const std::string& path, const DrawingWriter
 }
 } // namespace
 
-int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err, const DrawingWriter& writer)
+namespace {
+
+// One project through the window's model: loaded, set, its cases, calculated, saved
+// and drawn as asked. Status 2 where something asked for could not be done.
+struct ProjectRun {
+    int status = 0;
+    std::string out, err;
+    std::optional<BatchRow> row;
+};
+
+ProjectRun runProject(const cli::Options& o, const std::string& given, const std::vector<CasoDeCarga>& cases,
+                      const DrawingWriter& writer, bool batch)
 {
-    Options o;
-    std::string error;
-    if (!parse(args, o, error)) {
-        err << "pilarix-cli: " << error << "\n" << kUso << "\n";
-        return 2;
-    }
+    ProjectRun r;
+    std::ostringstream out, err;
+    auto stop = [&](const std::string& message) {
+        err << "pilarix-cli: " << message << "\n";
+        r.status = 2;
+        r.out = out.str();
+        r.err = err.str();
+        return r;
+    };
 
     PolicyDialogs dialogs;
     dialogs.coverAnswer = o.cobrimento;
     dialogs.stirrupOption = o.estribo;
     Program program(dialogs);
 
-    const std::string file = !o.file.empty()                                  ? o.file
+    const std::string file = !given.empty()                                        ? given
                              : !o.semPadrao && std::filesystem::exists("Padrão.txt") ? std::string("Padrão.txt")
                                                                                      : std::string();
-    if (!file.empty() && !load(program, file, error)) {
-        err << "pilarix-cli: " << error << "\n";
-        return 2;
-    }
+    std::string error;
+    if (!file.empty() && !load(program, file, error))
+        return stop(error);
     // Messages of the loading belong to the loading, not to the run.
     dialogs.records.clear();
 
-    for (const auto& [name, value] : o.sets) {
-        if (!setControlByName(program, name, value, error)) {
-            err << "pilarix-cli: --set " << name << "=" << value << ": " << error << "\n";
-            return 2;
-        }
-    }
+    for (const auto& [name, value] : o.sets)
+        if (!setControlByName(program, name, value, error))
+            return stop("--set " + name + "=" + value + ": " + error);
+    cli::applyCases(program, cases);
 
     if (o.melhor)
         program.Command8_Click();
@@ -476,26 +425,86 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
         program.NomeArquivo = o.salvar;
         program.ErroArquivo.clear();
         program.Grava32();
-        if (!program.ErroArquivo.empty()) {
-            err << "pilarix-cli: " << program.ErroArquivo << "\n";
+        if (!program.ErroArquivo.empty())
+            return stop(program.ErroArquivo);
+    }
+
+    if (!o.desenho.empty() && !writeDrawing(program, o.desenho, writer, error)) {
+        err << "pilarix-cli: " << error << "\n";
+        r.status = 2;
+    }
+
+    r.row = batchRow(program, file);
+    if (batch) {
+        if (o.json) {
+            nlohmann::ordered_json doc{{"arquivo", file}};
+            doc.update(documentJson(program, dialogs, o.melhor));
+            out << doc.dump() << "\n";
+        }
+    } else if (!o.json) {
+        report(program, dialogs, out);
+    } else {
+        out << documentJson(program, dialogs, o.melhor).dump(2) << "\n";
+    }
+    r.out = out.str();
+    r.err = err.str();
+    return r;
+}
+
+} // namespace
+
+int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err, const DrawingWriter& writer)
+{
+    cli::Options o;
+    std::string error;
+    if (!cli::parseOptions(args, o, error)) {
+        err << "pilarix-cli: " << error << "\n" << cli::kUsage << "\n";
+        return 2;
+    }
+    std::vector<CasoDeCarga> cases;
+    for (const auto& c : o.cases) {
+        CasoDeCarga one;
+        if (!cli::parseCase(c, one, error)) {
+            err << "pilarix-cli: " << error << "\n";
             return 2;
         }
+        cases.push_back(one);
+    }
+    if (!o.casesFile.empty() && !cli::readCasesFile(o.casesFile, cases, error)) {
+        err << "pilarix-cli: " << error << "\n";
+        return 2;
+    }
+    if (!o.memorial.empty()) {
+        err << "pilarix-cli: --memorial: o memorial de cálculo não está disponível neste pilarix-cli\n";
+        return 2;
     }
 
+    const bool batch = o.files.size() > 1;
+    if (!batch) {
+        const ProjectRun r = runProject(o, o.files.empty() ? std::string() : o.files[0], cases, writer, false);
+        out << r.out;
+        err << r.err;
+        if (!o.csv.empty() && r.row && !writeBatchCsv(o.csv, {*r.row}, err))
+            return 2;
+        return r.status;
+    }
+
+    // Many projects: each runs on its own, on every core; the results come out in the
+    // order of the files.
+    std::vector<ProjectRun> runs(o.files.size());
+    runInParallel(o.files.size(), [&](std::size_t i) { runs[i] = runProject(o, o.files[i], cases, writer, true); });
     int status = 0;
-    if (!o.desenho.empty()) {
-        std::string error;
-        if (!writeDrawing(program, o.desenho, writer, error)) {
-            err << "pilarix-cli: " << error << "\n";
-            status = 2;
-        }
+    std::vector<BatchRow> rows;
+    for (std::size_t i = 0; i < runs.size(); ++i) {
+        out << runs[i].out;
+        err << runs[i].err;
+        status = std::max(status, runs[i].status);
+        rows.push_back(runs[i].row ? *runs[i].row : BatchRow{o.files[i], {}, "erro de leitura"});
     }
-
-    if (!o.json) {
-        report(program, dialogs, out);
-        return status;
-    }
-    out << documentJson(program, dialogs, o.melhor).dump(2) << "\n";
+    if (!o.json)
+        writeBatchTable(rows, out);
+    if (!o.csv.empty() && !writeBatchCsv(o.csv, rows, err))
+        status = 2;
     return status;
 }
 

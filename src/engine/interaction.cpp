@@ -140,12 +140,34 @@ std::optional<Vertex> rayHit(const Side& side, double n, double m)
         return hi;
     if (!(cross(lo.f) <= 0 && cross(hi.f) > 0))
         return std::nullopt;
+    // Regula falsi on the cross product (the end that stays put has its value halved,
+    // so that both ends close in), with a halving step every third step: the bracket
+    // shrinks at least geometrically, and much faster where the side is smooth.
+    double cLo = cross(lo.f), cHi = cross(hi.f);
+    int kept = 0;
     for (int i = 0; i < kBisectionCap; ++i) {
-        const double t = lo.t + (hi.t - lo.t) / 2;
+        double t = (i % 3 == 2) ? lo.t + (hi.t - lo.t) / 2 : lo.t - cLo * (hi.t - lo.t) / (cHi - cLo);
+        if (!(t > lo.t && t < hi.t))
+            t = lo.t + (hi.t - lo.t) / 2;
         if (t <= lo.t || t >= hi.t)
             break;
         const Vertex mid{t, side.forces(t)};
-        (cross(mid.f) <= 0 ? lo : hi) = mid;
+        const double c = cross(mid.f);
+        if (c <= 0) {
+            lo = mid;
+            cLo = c;
+            if (kept == -1)
+                cHi /= 2;
+            kept = -1;
+        } else {
+            hi = mid;
+            cHi = c;
+            if (kept == +1)
+                cLo /= 2;
+            kept = +1;
+        }
+        if (c == 0)
+            break;
     }
     const Vertex& best = std::fabs(cross(lo.f)) < std::fabs(cross(hi.f)) ? lo : hi;
     if (!alongRay(best.f))
@@ -267,13 +289,37 @@ std::optional<double> requiredSteelArea(const ReinforcedSection& layout, double 
     const double most = layout.width * layout.depth; // as much steel as concrete: no column has it
     if (utilisation(withSteelArea(layout, most), nSd, mSd).ratio > 1)
         return std::nullopt;
-    // More steel of the same layout carries more: the search keeps lo short and hi enough.
+    // More steel of the same layout carries more: the search keeps lo short and hi
+    // enough. It steps by the chord of the utilisation between them (regula falsi,
+    // the end that stays put having its excess halved, so that both ends close in),
+    // and by halving where the chord leaves the bracket (an unbounded utilisation at
+    // lo, the fine steps of class B steel).
+    auto excess = [&](double as) { return utilisation(withSteelArea(layout, as), nSd, mSd).ratio - 1; };
     double lo = 0, hi = most;
+    double gLo = excess(lo), gHi = excess(hi);
+    int kept = 0; // +1 when lo stayed put on the last step, −1 when hi did
     for (int i = 0; i < kBisectionCap && hi - lo > 1e-7; ++i) {
-        const double mid = lo + (hi - lo) / 2;
-        if (mid <= lo || mid >= hi)
+        double x = hi - gHi * (hi - lo) / (gHi - gLo);
+        if (!(x > lo && x < hi))
+            x = lo + (hi - lo) / 2;
+        if (x <= lo || x >= hi)
             break;
-        (utilisation(withSteelArea(layout, mid), nSd, mSd).ratio <= 1 ? hi : lo) = mid;
+        const double g = excess(x);
+        if (g <= 0 && g > -1e-12) // on the boundary, to the last bits of the utilisation
+            return x;
+        if (g <= 0) {
+            hi = x;
+            gHi = g;
+            if (kept == +1)
+                gLo /= 2;
+            kept = +1;
+        } else {
+            lo = x;
+            gLo = g;
+            if (kept == -1)
+                gHi /= 2;
+            kept = -1;
+        }
     }
     return hi;
 }

@@ -31,28 +31,58 @@ std::vector<double> caseUtilisations(const ReinforcedSection& section, double ga
     return u;
 }
 
-CasesResult calculateCases(const ColumnInput& column, const std::vector<LoadCase>& cases, Questions& questions,
-                           MethodState& state)
+namespace {
+// Every case designed from a fresh start (no μ0 or λ of one case reaches another) at
+// the d' of `column`; the index of the one needing the most steel (the first of
+// equal ones).
+int designCases(const ColumnInput& column, const std::vector<LoadCase>& cases, std::vector<CaseResult>& out)
 {
-    CasesResult r;
-    // Each case from a fresh start: no μ0 or λ of one case reaches another.
+    out.clear();
+    int governing = 0;
     double most = -1;
     for (std::size_t i = 0; i < cases.size(); ++i) {
         Memory fresh;
         CaseResult c{cases[i], design(withForces(column, cases[i]), fresh), std::nan(""), false};
         if (c.design.designed && !c.design.failure && c.design.design.asNec > most) {
             most = c.design.design.asNec;
-            r.governing = static_cast<int>(i);
+            governing = static_cast<int>(i);
         }
-        r.cases.push_back(std::move(c));
+        out.push_back(std::move(c));
     }
+    return governing;
+}
+
+// The design of the governing case may move d' (the cover correction); the cases are
+// then compared again at that d', and where another one needs more steel it is
+// detailed instead. Two rounds settle it in practice; three are allowed.
+constexpr int kGoverningRounds = 3;
+} // namespace
+
+CasesResult calculateCases(const ColumnInput& column, const std::vector<LoadCase>& cases, Questions& questions,
+                           MethodState& state)
+{
+    CasesResult r;
     if (cases.empty())
         return r;
+    r.governing = designCases(column, cases, r.cases);
+    for (int round = 1; round <= kGoverningRounds; ++round) {
+        Memory fresh;
+        r.detail = calculate(withForces(column, cases[static_cast<std::size_t>(r.governing)]), questions, fresh, state);
+        if (!r.detail.designed || r.detail.failure)
+            break;
+        // d' as the cases were designed with: nothing to compare again.
+        if (!column.dLinha.automatic && r.detail.design.dLinha == column.dLinha.typed)
+            break;
+        ColumnInput settled = column;
+        settled.dLinha = {false, r.detail.design.dLinha};
+        const int again = designCases(settled, cases, r.cases);
+        if (again == r.governing || round == kGoverningRounds)
+            break;
+        r.governing = again;
+    }
     r.cases[static_cast<std::size_t>(r.governing)].governing = true;
 
     const ColumnInput governing = withForces(column, cases[static_cast<std::size_t>(r.governing)]);
-    Memory fresh;
-    r.detail = calculate(governing, questions, fresh, state);
     r.verification = verify(governing, r.detail);
     const auto section = detailedSection(governing, r.detail);
     if (!section)

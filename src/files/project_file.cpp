@@ -4,10 +4,10 @@
 #include "window/program.h"
 
 #include "engine/catalogue.h"
+#include "base/number_text.h"
 #include "files/field_reader.h"
 
 #include <array>
-#include <cctype>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
@@ -297,30 +297,6 @@ std::vector<std::string> partes(const std::string& s)
     }
 }
 
-// A force as the boxes hold it: a plain number, "." as the decimal point.
-bool numero(const std::string& s)
-{
-    std::size_t i = 0;
-    if (i < s.size() && (s[i] == '-' || s[i] == '+'))
-        ++i;
-    bool digitos = false;
-    while (i < s.size() && std::isdigit(static_cast<unsigned char>(s[i])))
-        ++i, digitos = true;
-    if (i < s.size() && s[i] == '.')
-        for (++i; i < s.size() && std::isdigit(static_cast<unsigned char>(s[i]));)
-            ++i, digitos = true;
-    if (digitos && i < s.size() && (s[i] == 'e' || s[i] == 'E')) {
-        std::size_t j = i + 1;
-        if (j < s.size() && (s[j] == '-' || s[j] == '+'))
-            ++j;
-        const std::size_t k = j;
-        while (j < s.size() && std::isdigit(static_cast<unsigned char>(s[j])))
-            ++j;
-        i = j > k ? j : i;
-    }
-    return digitos && i == s.size();
-}
-
 std::vector<std::string> registrosExtras(const Program& p)
 {
     std::vector<std::string> e;
@@ -361,7 +337,7 @@ Extras leExtras(const std::vector<std::string>& campos, const std::string& nome,
                 quebrado("o primeiro caso de carga tem só o nome (Caso;NOME), suas forças são Nd e Md");
             } else if (p.size() != 4 || p[1].empty()) {
                 quebrado("um caso de carga tem nome, Nd e Md (Caso;NOME;Nd;Md)");
-            } else if (!numero(p[2]) || !numero(p[3])) {
+            } else if (!IsNumber(p[2]) || !IsNumber(p[3])) {
                 quebrado("Nd e Md de um caso de carga são números com ponto decimal");
             } else {
                 x.casos.push_back({p[1], p[2], p[3]});

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <filesystem>
+#include <fstream>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -31,7 +33,8 @@ TEST(Cli, BadArgumentsGiveOneLineAndStatus2)
         {"--set", "Foo=1"},           {"--set", "Combo4=kn"},        {"--set", "Check1=5"},
         {"--set", "Option3=yes"},     {"--cobrimento", "3"},         {"--estribo", "7"},
         {"--set"},                    {"--bogus"},                   {"--set", "=3"},
-        {"a.txt", "b.txt"},
+        {"a.txt", "b.txt", "--salvar", "c.txt"}, {"--caso", "P1;400"},   {"--caso", "P,1;400;100"},
+        {"--caso", "P1;4OO;100"},
     };
     for (const auto& args : cases) {
         const CliRun r = runArgs(args);
@@ -83,4 +86,50 @@ TEST(Cli, AMissingProjectFileIsStatus2)
     const CliRun r = runArgs({"/nonexistent/dir/projeto.txt", "--json"});
     EXPECT_EQ(r.status, 2);
     EXPECT_FALSE(r.err.empty());
+}
+
+// ---- load cases and batches ----
+
+TEST(Cli, CasesGiveOneObjectEachAndTheGoverningIsTheOneWithMostSteel)
+{
+    // The case needing the most steel governs wherever it stands in the list.
+    for (const auto& order : std::vector<std::vector<std::string>>{{"A;400;10000", "B;200;15000", "C;600;4000"},
+                                                                   {"B;200;15000", "C;600;4000", "A;400;10000"}}) {
+        std::vector<std::string> args{"--sem-padrao", "--json"};
+        for (const auto& c : order)
+            args.insert(args.end(), {"--caso", c});
+        const CliRun r = runArgs(args);
+        ASSERT_EQ(r.status, 0) << r.err;
+        const auto casos = nlohmann::json::parse(r.out)["casos"];
+        ASSERT_EQ(casos.size(), 3u);
+        for (const auto& c : casos)
+            EXPECT_EQ(c["governa"], c["nome"] == "B") << c.dump();
+        EXPECT_EQ(casos[0]["nome"], order[0].substr(0, 1));
+    }
+}
+
+TEST(Cli, ABatchRunsEveryFileAsAloneAndGoesOnPastAnUnreadableOne)
+{
+    const auto dir = std::filesystem::temp_directory_path() / "pilarix-lote";
+    std::filesystem::create_directories(dir);
+    const std::string a = (dir / "a.txt").string(), b = (dir / "b.txt").string(), bad = (dir / "ruim.txt").string();
+    ASSERT_EQ(runArgs({"--sem-padrao", "--salvar", a}).status, 0);
+    ASSERT_EQ(runArgs({"--sem-padrao", "--set", "Text1=30", "--set", "Text16=900", "--salvar", b}).status, 0);
+    std::ofstream(bad) << "lixo\n";
+
+    const CliRun lote = runArgs({a, bad, b, "--json"});
+    EXPECT_EQ(lote.status, 2);
+    EXPECT_NE(lote.err.find("ruim.txt"), std::string::npos);
+    std::istringstream linhas(lote.out);
+    std::vector<nlohmann::json> docs;
+    for (std::string l; std::getline(linhas, l);)
+        docs.push_back(nlohmann::json::parse(l));
+    ASSERT_EQ(docs.size(), 2u) << "one JSON line per readable file, in the order given";
+    EXPECT_EQ(docs[0]["arquivo"], a);
+    EXPECT_EQ(docs[1]["arquivo"], b);
+    for (std::size_t i = 0; i < 2; ++i) {
+        const auto alone = nlohmann::json::parse(runArgs({i == 0 ? a : b, "--json"}).out);
+        EXPECT_EQ(docs[i]["estado"], alone["estado"]) << "the batch gives each file what it gives alone";
+    }
+    std::filesystem::remove_all(dir);
 }

@@ -188,6 +188,14 @@ TEST(ProjectFile, AFileThatCannotBeReadIsToldAndLeavesTheWindowAsItWas)
          {"registro 27 "}},
         {"an unquoted comma shifts the records", dir.file("g.txt"), edited([](Lines& l) { l[0] = "300,5"; }),
          {"registro 9 ", "\"\""}},
+        {"a case without forces", dir.file("h.txt"),
+         edited([](Lines& l) { l.insert(l.end(), {"Caso;topo", "Caso;base;400"}); }), {"registro 41 ", "Caso;NOME;Nd;Md"}},
+        {"a case with a decimal comma", dir.file("i.txt"),
+         edited([](Lines& l) { l.insert(l.end(), {"Caso;topo", "Caso;base;\"400,5\";10"}); }), {"registro 41"}},
+        {"a bar that is no longitudinal bar", dir.file("j.txt"),
+         edited([](Lines& l) { l.push_back("Bitola fixa;5 mm"); }), {"registro 40 ", "bitola fixada"}},
+        {"a record of nobody's", dir.file("k.txt"), edited([](Lines& l) { l.push_back("Vento;3"); }),
+         {"registro 40 "}},
         {"missing file", dir.file("nao_existe.txt"), "", {"não existe"}},
         {"a folder", dir.path_.string(), "", {"pasta"}},
     };
@@ -214,6 +222,39 @@ TEST(ProjectFile, AFileThatCannotBeReadIsToldAndLeavesTheWindowAsItWas)
     f.p.NomeArquivo = dir.file("sem/pasta.txt");
     f.p.Grava32();
     EXPECT_NE(f.p.ErroArquivo.find("Não foi possível gravar"), std::string::npos) << f.p.ErroArquivo;
+}
+
+TEST(ProjectFile, LoadCasesAndTheFixedBarFollowThe39RecordsAndComeBack)
+{
+    TempDir dir;
+    Fixture f;
+    f.p.NomeDoCaso1 = "topo";
+    f.p.OutrosCasos = {{"base", "600", "4000"}, {"vento X", "-20.5", "15000"}};
+    f.p.BitolaFixa = 6;
+    f.p.NomeArquivo = dir.file("casos.txt");
+    f.p.Grava32();
+    const std::string bytes = readBytes(dir.file("casos.txt"));
+    // The first 39 records are those of a project of one case; the rest follow them.
+    EXPECT_EQ(bytes.substr(0, golden().size()), golden());
+    EXPECT_EQ(bytes.substr(golden().size()),
+              "Caso;topo\r\nCaso;base;600;4000\r\nCaso;vento X;-20.5;15000\r\nBitola fixa;16 mm (5/8'')\r\n");
+
+    Fixture g;
+    g.p.NomeArquivo = dir.file("casos.txt");
+    g.p.Carrega33();
+    ASSERT_TRUE(g.p.ErroArquivo.empty()) << g.p.ErroArquivo;
+    EXPECT_EQ(g.p.NomeDoCaso1, "topo");
+    ASSERT_EQ(g.p.OutrosCasos.size(), 2u);
+    EXPECT_EQ(g.p.OutrosCasos[1].nome, "vento X");
+    EXPECT_EQ(g.p.OutrosCasos[1].nd, "-20.5");
+    EXPECT_EQ(g.p.BitolaFixa, 6);
+
+    // Loading a project of one case drops the cases and the bar of the one before.
+    g.p.NomeArquivo = dir.file("um.txt");
+    writeBytes(g.p.NomeArquivo, golden());
+    g.p.Carrega33();
+    EXPECT_TRUE(g.p.OutrosCasos.empty());
+    EXPECT_EQ(g.p.BitolaFixa, 0);
 }
 
 TEST(ProjectFile, StartCreatesTheDefaultsFileOnlyWhenMissing)

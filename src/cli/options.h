@@ -1,0 +1,31 @@
+#pragma once
+// The arguments of pilarix-cli.
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace pilarix::cli {
+
+struct Options {
+    std::vector<std::string> files;           // one project, or a batch of several
+    std::vector<std::pair<std::string, std::string>> sets;
+    std::vector<std::string> cases;           // --caso "NOME;Nd;Md", in order
+    std::string casesFile;                    // --casos FILE.csv
+    bool melhor = false;
+    int cobrimento = 1;
+    int estribo = 4;
+    std::string salvar;
+    std::string desenho;  // the section's drawing, in the format of the name
+    std::string memorial; // the calculation report (PDF)
+    std::string csv;      // a summary row per project
+    bool json = false;
+    bool semPadrao = false; // do not load "Padrão.txt" of the working directory
+};
+
+extern const char* const kUsage;
+
+// False, with the reason in `error`, for arguments that do not make a run.
+bool parseOptions(const std::vector<std::string>& args, Options& o, std::string& error);
+
+} // namespace pilarix::cli
