@@ -38,7 +38,7 @@ namespace {
 
 constexpr const char* kUso =
     "uso: pilarix-cli [ARQUIVO] [--set CONTROLE=VALOR]... [--melhor] [--cobrimento 1|2] "
-    "[--estribo K] [--salvar SAIDA] [--desenho SAIDA.dxf|.svg|.png] [--sem-padrao] [--json]";
+    "[--estribo K] [--salvar SAIDA] [--desenho SAIDA.dxf|.svg|.png] [--memorial SAIDA.pdf] [--sem-padrao] [--json]";
 
 struct Options {
     std::string file;
@@ -48,6 +48,7 @@ struct Options {
     int estribo = 4;
     std::string salvar;
     std::string desenho; // the section's drawing, in the format of the name
+    std::string memorial; // the calculation report, PDF
     bool json = false;
     bool semPadrao = false; // do not load "Padrão.txt" of the working directory
 };
@@ -104,6 +105,10 @@ bool parse(const std::vector<std::string>& args, Options& o, std::string& error)
             if (!next(v))
                 return false;
             o.desenho = v;
+        } else if (a == "--memorial") {
+            if (!next(v))
+                return false;
+            o.memorial = v;
         } else if (a.size() > 1 && a[0] == '-') {
             error = "opção desconhecida: " + a;
             return false;
@@ -436,7 +441,8 @@ bool writeDrawing(const Program& p, const std::string& path, const DrawingWriter
 }
 } // namespace
 
-int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err, const DrawingWriter& writer)
+int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err, const DrawingWriter& writer,
+           const ReportWriter& reportWriter)
 {
     Options o;
     std::string error;
@@ -489,6 +495,10 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
             err << "pilarix-cli: " << error << "\n";
             status = 2;
         }
+    }
+    if (!o.memorial.empty() && !writeMemorial(program, o.memorial, reportWriter, error)) {
+        err << "pilarix-cli: " << error << "\n";
+        status = 2;
     }
 
     if (!o.json) {
