@@ -169,14 +169,21 @@ void paintDiagram(QPainter& p, const QRectF& rect, const report::Diagram& d)
     // The grid and the ticks' values.
     p.setFont(font(7));
     QPen grid(QColor(215, 215, 215), mm(0.15));
-    for (double v = ax.lo; v <= ax.hi + ax.step / 2; v += ax.step) {
+    // Whole steps from the low end; a count, not a sum, so that a step lost in the
+    // magnitude of the ends can never run on.
+    const auto ticks = [](const Axis& a) {
+        return std::min(40, static_cast<int>(std::lround((a.hi - a.lo) / a.step)));
+    };
+    for (int k = 0; k <= ticks(ax); ++k) {
+        const double v = ax.lo + k * ax.step;
         p.setPen(grid);
         p.drawLine(QPointF(x(v), plot.top()), QPointF(x(v), plot.bottom()));
         p.setPen(kGrey);
         p.drawText(QRectF(x(v) - mm(12), plot.bottom() + mm(2.5), mm(24), mm(4)), Qt::AlignHCenter | Qt::AlignTop,
                    qs(tickText(v, ax.step)));
     }
-    for (double v = ay.lo; v <= ay.hi + ay.step / 2; v += ay.step) {
+    for (int k = 0; k <= ticks(ay); ++k) {
+        const double v = ay.lo + k * ay.step;
         p.setPen(grid);
         p.drawLine(QPointF(plot.left(), y(v)), QPointF(plot.right(), y(v)));
         p.setPen(kGrey);

@@ -201,7 +201,8 @@ void inputSection(const Program& p, const engine::ColumnResult& r, const Solutio
     const engine::ColumnInput& in = p.Entrada;
     const Unit force = unitOf(p.Form1.Combo4.Text, "kN", kKgfPerKn);
     const Unit moment = unitOf(p.Form1.Combo5.Text, "kN·m", kKgfCmPerKnM);
-    const int total = r.designed ? r.design.totalBars : static_cast<int>(2 * (in.barsOnWidthFace + in.barsOnDepthFace) - 4);
+    const int total =
+        r.designed ? r.design.totalBars : static_cast<int>(2 * (in.barsOnWidthFace + in.barsOnDepthFace) - 4);
     const double dLinha = r.designed ? r.design.dLinha : in.dLinha.typed;
 
     Writer w(s);
