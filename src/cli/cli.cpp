@@ -385,7 +385,7 @@ struct ProjectRun {
 };
 
 ProjectRun runProject(const cli::Options& o, const std::string& given, const std::vector<CasoDeCarga>& cases,
-                      const DrawingWriter& writer, bool batch)
+                      const DrawingWriter& writer, const ReportWriter& reportWriter, bool batch)
 {
     ProjectRun r;
     std::ostringstream out, err;
@@ -433,6 +433,10 @@ ProjectRun runProject(const cli::Options& o, const std::string& given, const std
         err << "pilarix-cli: " << error << "\n";
         r.status = 2;
     }
+    if (!o.memorial.empty() && !writeMemorial(program, o.memorial, reportWriter, error)) {
+        err << "pilarix-cli: " << error << "\n";
+        r.status = 2;
+    }
 
     r.row = batchRow(program, file);
     if (batch) {
@@ -453,7 +457,8 @@ ProjectRun runProject(const cli::Options& o, const std::string& given, const std
 
 } // namespace
 
-int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err, const DrawingWriter& writer)
+int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err, const DrawingWriter& writer,
+           const ReportWriter& reportWriter)
 {
     cli::Options o;
     std::string error;
@@ -474,14 +479,10 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
         err << "pilarix-cli: " << error << "\n";
         return 2;
     }
-    if (!o.memorial.empty()) {
-        err << "pilarix-cli: --memorial: o memorial de cálculo não está disponível neste pilarix-cli\n";
-        return 2;
-    }
 
     const bool batch = o.files.size() > 1;
     if (!batch) {
-        const ProjectRun r = runProject(o, o.files.empty() ? std::string() : o.files[0], cases, writer, false);
+        const ProjectRun r = runProject(o, o.files.empty() ? std::string() : o.files[0], cases, writer, reportWriter, false);
         out << r.out;
         err << r.err;
         if (!o.csv.empty() && r.row && !writeBatchCsv(o.csv, {*r.row}, err))
@@ -492,7 +493,7 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
     // Many projects: each runs on its own, on every core; the results come out in the
     // order of the files.
     std::vector<ProjectRun> runs(o.files.size());
-    runInParallel(o.files.size(), [&](std::size_t i) { runs[i] = runProject(o, o.files[i], cases, writer, true); });
+    runInParallel(o.files.size(), [&](std::size_t i) { runs[i] = runProject(o, o.files[i], cases, writer, reportWriter, true); });
     int status = 0;
     std::vector<BatchRow> rows;
     for (std::size_t i = 0; i < runs.size(); ++i) {

@@ -2,6 +2,7 @@
 // pilarix-cli: the calculation of the main window without a screen, for scripts,
 // tests and comparisons. It drives the same Program through the same form model.
 
+#include "cli/memorial.h"
 #include "window/policy_dialogs.h"
 #include "window/program.h"
 
@@ -22,7 +23,7 @@ using DrawingWriter = std::function<bool(const engine::SectionGeometry& geometry
 
 // Runs the command line; returns the exit status (0 ran, 2 bad arguments or file).
 int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err,
-           const DrawingWriter& writer = {});
+           const DrawingWriter& writer = {}, const ReportWriter& reportWriter = {});
 
 // The calculation state, keyed by field name.
 nlohmann::ordered_json estadoJson(const Program& program);

@@ -5,6 +5,7 @@
 
 #ifdef PILARIX_DESENHO_QT
 #include "render/drawing_export.h"
+#include "render/report_pdf.h"
 
 #include <QGuiApplication>
 #endif
@@ -12,11 +13,12 @@
 int main(int argc, char** argv)
 {
     pilarix::DrawingWriter writer;
+    pilarix::ReportWriter memorial;
 #ifdef PILARIX_DESENHO_QT
-    // SVG and PNG are drawn by the window's painter, whose texts need a Qt
-    // application: one is made, without a screen, only when a drawing is asked for.
+    // SVG, PNG and the report's PDF are drawn by Qt's painter, whose texts need a Qt
+    // application: one is made, without a screen, only when one of them is asked for.
     std::unique_ptr<QGuiApplication> app;
-    writer = [&](const pilarix::engine::SectionGeometry& g, const std::string& path, double scale, std::string& error) {
+    const auto ensureApp = [&app] {
         if (!app) {
             qputenv("QT_QPA_PLATFORM", "offscreen");
             static int qtArgc = 1;
@@ -24,8 +26,15 @@ int main(int argc, char** argv)
             static char* qtArgv[] = {name, nullptr};
             app = std::make_unique<QGuiApplication>(qtArgc, qtArgv);
         }
+    };
+    writer = [&](const pilarix::engine::SectionGeometry& g, const std::string& path, double scale, std::string& error) {
+        ensureApp();
         return pilarix::render::exportDrawing(g, path, scale, error);
     };
+    memorial = [&](const pilarix::Program& program, const std::string& path, std::string& error) {
+        ensureApp();
+        return pilarix::render::writeReport(program, path, pilarix::render::currentStamp(), error);
+    };
 #endif
-    return pilarix::runCli(std::vector<std::string>(argv + 1, argv + argc), std::cout, std::cerr, writer);
+    return pilarix::runCli(std::vector<std::string>(argv + 1, argv + argc), std::cout, std::cerr, writer, memorial);
 }

@@ -5,16 +5,15 @@
 #include "export/dxf_writer.h"
 #include "export/save_failure.h"
 #include "render/section_painter.h"
+#include "render/whole_file.h"
 
 #include <QBuffer>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 
 #include <algorithm>
-#include <cerrno>
 #include <cmath>
 #include <filesystem>
 
@@ -72,27 +71,6 @@ bool ready(const engine::SectionGeometry& g, const std::string& path, double sca
     return true;
 }
 
-// The whole file at once through QSaveFile: written beside, renamed into place.
-bool save(const QByteArray& bytes, const std::string& path, std::string& error)
-{
-    QSaveFile file(QString::fromStdString(path));
-    errno = 0;
-    const bool ok = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-    if (ok)
-        return true;
-    const int errnum = errno;
-    switch (file.error()) {
-    case QFileDevice::PermissionsError: error = exporting::saveFailure(path, EACCES); break;
-    case QFileDevice::ResourceError: error = exporting::saveFailure(path, ENOSPC); break;
-    default:
-        error = errnum ? exporting::saveFailure(path, errnum)
-                       : exporting::saveFailure(path, "erro de gravação (" + file.errorString().toStdString() + ")");
-        break;
-    }
-    file.cancelWriting();
-    return false;
-}
-
 void paintOnSheet(QPainter& p, const engine::SectionGeometry& g, QSize size, double scale)
 {
     p.fillRect(QRect(QPoint(0, 0), size), Qt::white);
@@ -128,7 +106,7 @@ bool exportSvg(const engine::SectionGeometry& g, const std::string& path, double
     }
     paintOnSheet(p, g, size, scale);
     p.end();
-    return save(buffer.data(), path, error);
+    return saveWholeFile(buffer.data(), path, error);
 }
 
 bool exportPng(const engine::SectionGeometry& g, const std::string& path, double scale, std::string& error)
@@ -155,7 +133,7 @@ bool exportPng(const engine::SectionGeometry& g, const std::string& path, double
         error = exporting::saveFailure(path, "a imagem PNG não pôde ser gerada");
         return false;
     }
-    return save(buffer.data(), path, error);
+    return saveWholeFile(buffer.data(), path, error);
 }
 
 bool exportDrawing(const engine::SectionGeometry& g, const std::string& path, double scale, std::string& error)

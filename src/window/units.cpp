@@ -2,6 +2,8 @@
 // factor (1 N = 0.1 kgf, 1 kN = 100 kgf, 1 MPa = 10 kgf/cm²), as the program always
 // has: the factors are not to be "corrected" to 9.80665.
 
+#include "window/units.h"
+
 #include "window/program.h"
 #include "window/units.h"
 
@@ -59,9 +61,8 @@ void Program::Unidades30()
 {
     // Exact, case-sensitive names. An unknown name (only a hand-edited project file
     // can bring one) leaves the factor of the previous quantity in place.
-    for (const auto& [nome, fator] : kUnidades)
-        if (UnidadeNome == nome)
-            FatorUnidade = fator;
+    if (const auto fator = fatorDaUnidade(UnidadeNome))
+        FatorUnidade = *fator;
 }
 
 } // namespace pilarix

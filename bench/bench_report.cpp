@@ -1,0 +1,86 @@
+// The calculation report of the default column, as "Memorial de cálculo (PDF)..."
+// makes it from the window's last calculation: its contents, then the laid-out PDF
+// (in memory, and written to a file). Target: the whole report within 300 ms.
+
+#include "render/report_pdf.h"
+#include "report/report_data.h"
+#include "window/policy_dialogs.h"
+#include "window/program.h"
+
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+
+#include <benchmark/benchmark.h>
+
+#include <memory>
+
+namespace {
+
+using namespace pilarix;
+
+const report::ReportStamp kStamp{"01/02/2025 08:30", std::string(report::programVersion())};
+
+// The PDF's text needs a Qt application, made once, without a screen.
+void ensureApplication()
+{
+    static std::unique_ptr<QGuiApplication> app;
+    if (!app) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        static int argc = 1;
+        static char name[] = "pilarix_bench";
+        static char* argv[] = {name, nullptr};
+        app = std::make_unique<QGuiApplication>(argc, argv);
+    }
+}
+
+void BM_Memorial_Dados(benchmark::State& state)
+{
+    PolicyDialogs dialogs;
+    Program p(dialogs);
+    p.Command1_Click();
+    for (auto _ : state) {
+        report::ReportData r;
+        std::string error;
+        benchmark::DoNotOptimize(report::buildReport(p, kStamp, r, error));
+        benchmark::DoNotOptimize(r.messages.data());
+    }
+}
+BENCHMARK(BM_Memorial_Dados)->Unit(benchmark::kMicrosecond);
+
+void BM_Memorial_Pdf(benchmark::State& state)
+{
+    ensureApplication();
+    PolicyDialogs dialogs;
+    Program p(dialogs);
+    p.Command1_Click();
+    std::size_t bytes = 0;
+    for (auto _ : state) {
+        report::ReportData r;
+        std::string error;
+        report::buildReport(p, kStamp, r, error);
+        const QByteArray pdf = render::reportPdf(r, error);
+        bytes = static_cast<std::size_t>(pdf.size());
+        benchmark::DoNotOptimize(pdf.data());
+    }
+    state.counters["bytes"] = static_cast<double>(bytes);
+}
+BENCHMARK(BM_Memorial_Pdf)->Unit(benchmark::kMillisecond);
+
+void BM_Memorial_Arquivo(benchmark::State& state)
+{
+    ensureApplication();
+    PolicyDialogs dialogs;
+    Program p(dialogs);
+    p.Command1_Click();
+    const std::string path = QDir::temp().filePath(QStringLiteral("pilarix_bench_memorial.pdf")).toStdString();
+    for (auto _ : state) {
+        std::string error;
+        if (!render::writeReport(p, path, kStamp, error))
+            state.SkipWithError(error.c_str());
+    }
+    QFile::remove(QString::fromStdString(path));
+}
+BENCHMARK(BM_Memorial_Arquivo)->Unit(benchmark::kMillisecond);
+
+} // namespace

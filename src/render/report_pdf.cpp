@@ -1,0 +1,660 @@
+// The calculation report laid out by a QTextDocument (paragraphs, the solutions
+// table, the page breaks) and painted page by page on a QPdfWriter, each page under
+// the same heading and over its number; the diagram and the section's drawing are
+// objects of the text, painted as vectors where the layout puts them.
+
+#include "render/report_pdf.h"
+
+#include "base/number_text.h"
+#include "export/drawing_layout.h"
+#include "export/save_failure.h"
+#include "render/section_painter.h"
+#include "render/whole_file.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QBuffer>
+#include <QDateTime>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPdfWriter>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextObjectInterface>
+#include <QTextTable>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <vector>
+
+namespace pilarix::render {
+
+namespace detail {
+
+// The pictures of the report as objects of its text: the layout gives each the
+// room of its size and the painter paints it there, in whatever page it fell.
+class Figures : public QObject, public QTextObjectInterface {
+    Q_OBJECT
+    Q_INTERFACES(QTextObjectInterface)
+
+public:
+    static constexpr int kObjectType = QTextFormat::UserObject + 1;
+    static constexpr int kIndexProperty = QTextFormat::UserProperty + 1;
+    using Paint = std::function<void(QPainter&, const QRectF&)>;
+
+    int add(QSizeF size, Paint paint)
+    {
+        items_.push_back({size, std::move(paint)});
+        return static_cast<int>(items_.size()) - 1;
+    }
+
+    QSizeF intrinsicSize(QTextDocument*, int, const QTextFormat& format) override
+    {
+        const Item* i = item(format);
+        return i ? i->size : QSizeF();
+    }
+
+    void drawObject(QPainter* painter, const QRectF& rect, QTextDocument*, int, const QTextFormat& format) override
+    {
+        if (const Item* i = item(format)) {
+            painter->save();
+            i->paint(*painter, rect);
+            painter->restore();
+        }
+    }
+
+private:
+    struct Item {
+        QSizeF size;
+        Paint paint;
+    };
+    const Item* item(const QTextFormat& format) const
+    {
+        const int k = format.intProperty(kIndexProperty);
+        return k >= 0 && static_cast<std::size_t>(k) < items_.size() ? &items_[static_cast<std::size_t>(k)] : nullptr;
+    }
+    std::vector<Item> items_;
+};
+
+} // namespace detail
+
+namespace {
+
+// ---- the sheet: A4 portrait, in device units of kDpi ----
+
+constexpr int kDpi = 1200;
+constexpr double mm(double x) { return x * kDpi / 25.4; }
+// The text's layout takes its margins, paddings and fixed widths in pixels of
+// 1/96 in and scales them to the device; sizes of pages and objects in the device's.
+constexpr double layoutMm(double x) { return x * 96 / 25.4; }
+
+constexpr double kPageWidth = 210, kPageHeight = 297;                  // mm
+constexpr double kLeft = 20, kRight = 15, kTop = 24, kBottom = 20;    // the body's margins, mm
+constexpr double kBodyWidth = kPageWidth - kLeft - kRight;           // 175 mm
+constexpr double kBodyHeight = kPageHeight - kTop - kBottom;         // 253 mm
+constexpr double kDiagramWidth = 165, kDiagramHeight = 112;          // mm
+constexpr double kDrawingRoomWidth = 165, kDrawingRoomHeight = 180;  // mm
+constexpr double kDrawingMargin = 4;                                 // mm round the drawing
+
+const QColor kHeading(0, 51, 102);
+const QColor kFailedColour(190, 0, 0);
+const QColor kGrey(95, 95, 95);
+const QColor kWithinColour(0, 145, 0);
+const QColor kCurveColour(0, 70, 150);
+
+QString qs(const std::string& s) { return QString::fromStdString(s); }
+
+// The report's one family, with the Greek letters, ‰, ² and ′ the text needs.
+QFont font(double points, bool bold = false, bool italic = false)
+{
+    QFont f;
+    f.setFamilies({QStringLiteral("DejaVu Sans"), QStringLiteral("Liberation Sans"), QStringLiteral("Arial")});
+    f.setStyleHint(QFont::SansSerif);
+    f.setPointSizeF(points);
+    f.setBold(bold);
+    f.setItalic(italic);
+    // No ligatures: "fl" and "fi" stay two letters for whoever searches or copies the text.
+    f.setStyleStrategy(QFont::PreferNoShaping);
+    return f;
+}
+
+// ---- the interaction diagram ----
+
+struct Axis {
+    double lo = 0, hi = 1, step = 1;
+};
+
+// A range holding every value and zero, a little wider, on steps of 1, 2 or 5 ×10^k.
+Axis axisFor(double lo, double hi)
+{
+    lo = std::min(lo, 0.0);
+    hi = std::max(hi, 0.0);
+    if (!(hi - lo > 0) || !std::isfinite(hi - lo)) {
+        lo = -1;
+        hi = 1;
+    }
+    const double raw = (hi - lo) / 6;
+    const double magnitude = std::pow(10, std::floor(std::log10(raw)));
+    const double f = raw / magnitude;
+    const double step = (f <= 1 ? 1 : f <= 2 ? 2 : f <= 5 ? 5 : 10) * magnitude;
+    return {std::floor(lo / step - 0.05) * step, std::ceil(hi / step + 0.05) * step, step};
+}
+
+std::string tickText(double v, double step)
+{
+    const int decimals = std::max(0, -static_cast<int>(std::floor(std::log10(step) + 1e-9)));
+    if (std::abs(v) < step * 1e-9)
+        v = 0;
+    return Format(v, decimals > 0 ? "##0." + std::string(static_cast<std::size_t>(decimals), '0') : "##0");
+}
+
+void paintDiagram(QPainter& p, const QRectF& rect, const report::Diagram& d)
+{
+    p.setRenderHint(QPainter::Antialiasing, true);
+    double nLo = d.nSd, nHi = d.nSd, mLo = d.mSd, mHi = d.mSd;
+    for (const auto& [n, m] : d.curve) {
+        nLo = std::min(nLo, n);
+        nHi = std::max(nHi, n);
+        mLo = std::min(mLo, m);
+        mHi = std::max(mHi, m);
+    }
+    const Axis ax = axisFor(nLo, nHi), ay = axisFor(mLo, mHi);
+    const QRectF plot = rect.adjusted(mm(20), mm(9), -mm(4), -mm(21));
+    const auto x = [&](double n) { return plot.left() + (n - ax.lo) / (ax.hi - ax.lo) * plot.width(); };
+    const auto y = [&](double m) { return plot.bottom() - (m - ay.lo) / (ay.hi - ay.lo) * plot.height(); };
+
+    // The grid and the ticks' values.
+    p.setFont(font(7));
+    QPen grid(QColor(215, 215, 215), mm(0.15));
+    // Whole steps from the low end; a count, not a sum, so that a step lost in the
+    // magnitude of the ends can never run on.
+    const auto ticks = [](const Axis& a) {
+        return std::min(40, static_cast<int>(std::lround((a.hi - a.lo) / a.step)));
+    };
+    for (int k = 0; k <= ticks(ax); ++k) {
+        const double v = ax.lo + k * ax.step;
+        p.setPen(grid);
+        p.drawLine(QPointF(x(v), plot.top()), QPointF(x(v), plot.bottom()));
+        p.setPen(kGrey);
+        p.drawText(QRectF(x(v) - mm(12), plot.bottom() + mm(2.5), mm(24), mm(4)), Qt::AlignHCenter | Qt::AlignTop,
+                   qs(tickText(v, ax.step)));
+    }
+    for (int k = 0; k <= ticks(ay); ++k) {
+        const double v = ay.lo + k * ay.step;
+        p.setPen(grid);
+        p.drawLine(QPointF(plot.left(), y(v)), QPointF(plot.right(), y(v)));
+        p.setPen(kGrey);
+        p.drawText(QRectF(rect.left(), y(v) - mm(2), plot.left() - rect.left() - mm(1.5), mm(4)),
+                   Qt::AlignRight | Qt::AlignVCenter, qs(tickText(v, ay.step)));
+    }
+    p.setPen(QPen(Qt::black, mm(0.25)));
+    p.setBrush(Qt::NoBrush);
+    p.drawRect(plot);
+    p.drawLine(QPointF(x(0), plot.top()), QPointF(x(0), plot.bottom()));
+    p.drawLine(QPointF(plot.left(), y(0)), QPointF(plot.right(), y(0)));
+
+    p.setFont(font(7.5, true));
+    p.setPen(Qt::black);
+    p.drawText(QRectF(plot.left(), plot.bottom() + mm(7.5), plot.width(), mm(5)), Qt::AlignHCenter | Qt::AlignTop,
+               QStringLiteral("N (%1), compressão positiva").arg(qs(d.forceUnit)));
+    p.drawText(QRectF(rect.left(), rect.top(), mm(60), mm(6)), Qt::AlignLeft | Qt::AlignTop,
+               QStringLiteral("M (%1)").arg(qs(d.momentUnit)));
+
+    // The curve, inside the frame (and inside the page the painter is clipped to).
+    p.save();
+    p.setClipRect(plot.adjusted(-mm(0.3), -mm(0.3), mm(0.3), mm(0.3)), Qt::IntersectClip);
+    if (d.curve.size() >= 3) {
+        QPolygonF poly;
+        poly.reserve(static_cast<qsizetype>(d.curve.size()));
+        for (const auto& [n, m] : d.curve)
+            poly << QPointF(x(n), y(m));
+        QPainterPath path;
+        path.addPolygon(poly);
+        path.closeSubpath();
+        p.setBrush(QColor(225, 235, 250));
+        p.setPen(QPen(kCurveColour, mm(0.45), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        p.drawPath(path);
+    }
+    // M_Rd at N_Sd, on the curve above the design point.
+    const QPointF sd(x(d.nSd), y(d.mSd));
+    if (d.mRd) {
+        const QPointF rd(x(d.nSd), y(*d.mRd));
+        p.setPen(QPen(kGrey, mm(0.25), Qt::DashLine));
+        p.drawLine(sd, rd);
+        p.setPen(QPen(kCurveColour, mm(0.3)));
+        p.setBrush(Qt::white);
+        p.drawEllipse(rd, mm(1.0), mm(1.0));
+    }
+    const QColor point = d.withinCurve() ? kWithinColour : kFailedColour;
+    p.setPen(QPen(Qt::black, mm(0.15)));
+    p.setBrush(point);
+    p.drawEllipse(sd, mm(1.2), mm(1.2));
+    p.restore();
+
+    // The legend, in a row under the axis' title.
+    p.setFont(font(7));
+    const double ly = plot.bottom() + mm(16);
+    const double third = plot.width() / 3;
+    const auto symbolX = [&](int k) { return plot.left() + k * third + mm(3); };
+    p.setPen(QPen(kCurveColour, mm(0.45)));
+    p.drawLine(QPointF(symbolX(0) - mm(2.5), ly), QPointF(symbolX(0) + mm(2.5), ly));
+    p.setPen(QPen(kCurveColour, mm(0.3)));
+    p.setBrush(Qt::white);
+    p.drawEllipse(QPointF(symbolX(1), ly), mm(1.0), mm(1.0));
+    p.setPen(QPen(Qt::black, mm(0.15)));
+    p.setBrush(point);
+    p.drawEllipse(QPointF(symbolX(2), ly), mm(1.2), mm(1.2));
+    p.setPen(Qt::black);
+    const auto text = [&](int k, const QString& s) {
+        p.drawText(QRectF(symbolX(k) + mm(4), ly - mm(2), third - mm(8), mm(4)), Qt::AlignLeft | Qt::AlignVCenter, s);
+    };
+    text(0, QStringLiteral("N_Rd–M_Rd da seção detalhada"));
+    text(1, QStringLiteral("M_Rd em N_Sd"));
+    text(2, QStringLiteral("(N_Sd, M_Sd), utilização %1")
+                .arg(std::isfinite(d.utilisation) ? qs(Format(100 * d.utilisation, "##0.0")) + QStringLiteral(" %")
+                                                  : QStringLiteral("sem limite")));
+}
+
+// ---- the section's drawing ----
+
+// The painter of the window draws in pixels of 1/96 in: its pens and texts keep the
+// weight they have on screen.
+constexpr double kPainterDpi = 96;
+
+void paintDrawing(QPainter& p, const QRectF& rect, const engine::SectionGeometry& g, double scale)
+{
+    const double unit = static_cast<double>(kDpi) / kPainterDpi;
+    p.translate(rect.topLeft());
+    p.scale(unit, unit);
+    const double pixelsPerCm = kPainterDpi / 2.54 / scale;
+    paintSection(p, g, placedView(g, pixelsPerCm, kDrawingMargin / 25.4 * kPainterDpi));
+}
+
+// ---- the text ----
+
+class Builder {
+public:
+    Builder(QTextDocument& doc, detail::Figures& figures) : cursor_(&doc), figures_(figures) {}
+
+    std::vector<int> headings; // positions of the headings' blocks
+
+    void title(const report::ReportData& r)
+    {
+        block(blockFormat(0, 0), charFormat(17, true, false, kHeading));
+        cursor_.insertText(QStringLiteral("Memorial de cálculo"));
+        block(blockFormat(2, 0), charFormat(10));
+        cursor_.insertText(QStringLiteral("Pilar retangular de concreto armado sob flexão normal composta. NBR 6118 "
+                                          "(Projeto de revisão da NB1 / 2001), método das zonas de solicitação."));
+        meta("Projeto", r.project);
+        meta("Data e hora", r.stamp.dateTime);
+        meta("Programa", "Pilarix " + r.stamp.version);
+    }
+
+    void heading(const QString& text)
+    {
+        QTextBlockFormat b = blockFormat(12, 3);
+        block(b, charFormat(12, true, false, kHeading));
+        headings.push_back(cursor_.block().position());
+        cursor_.insertText(text);
+    }
+
+    void section(int number, const report::Section& s)
+    {
+        heading(QStringLiteral("%1. %2").arg(number).arg(qs(s.title)));
+        for (const auto& l : s.lines)
+            line(l);
+        for (const auto& n : s.notes)
+            note(n);
+    }
+
+    void line(const report::Line& l)
+    {
+        block(blockFormat(1.2, 0, 4), charFormat(9.5));
+        cursor_.insertText(qs(l.label) + QStringLiteral(": "));
+        std::string value = l.value;
+        if (!l.unit.empty())
+            value += " " + l.unit;
+        cursor_.insertText(qs(value), charFormat(9.5, true));
+        if (!l.note.empty())
+            cursor_.insertText(QStringLiteral(" — ") + qs(l.note), charFormat(8.5, false, false, kGrey));
+    }
+
+    void note(const std::string& text)
+    {
+        block(blockFormat(2, 0, 4), charFormat(9.5, false, true, kGrey));
+        cursor_.insertText(qs(text));
+    }
+
+    void message(int number, const report::Message& m)
+    {
+        const QColor colour = m.failed ? kFailedColour : QColor(Qt::black);
+        const bool bold = m.failed;
+        block(blockFormat(4, 0, 4, 5), charFormat(9.5, true, false, colour));
+        cursor_.insertText(QStringLiteral("%1. [%2] ").arg(number).arg(qs(m.window)));
+        cursor_.insertText(qs(m.text), charFormat(9.5, bold, false, colour));
+        if (!m.clause.empty()) {
+            block(blockFormat(0.5, 0, 9), charFormat(8.5, bold, true, colour));
+            cursor_.insertText(qs(m.clause));
+        }
+        for (const auto& o : m.options) {
+            if (o.empty())
+                continue;
+            block(blockFormat(0.5, 0, 9), charFormat(8.5, o == m.answer));
+            cursor_.insertText(QStringLiteral("• ") + qs(o));
+        }
+        if (m.kind == report::Message::Kind::Question) {
+            block(blockFormat(0.5, 0, 9), charFormat(8.5, false, false, colour));
+            cursor_.insertText(QStringLiteral("Resposta: "));
+            cursor_.insertText(qs(m.answer), charFormat(8.5, true, false, colour));
+        }
+    }
+
+    void verdict(const report::ReportData& r)
+    {
+        block(blockFormat(8, 0, 4), charFormat(12, true, false, r.failed() ? kFailedColour : QColor(Qt::black)));
+        cursor_.insertText(QStringLiteral("Resultado: ") + qs(r.verdict));
+    }
+
+    void figure(QSizeF size, detail::Figures::Paint paint, const QString& caption)
+    {
+        QTextBlockFormat b = blockFormat(5, 1);
+        b.setAlignment(Qt::AlignHCenter);
+        block(b, charFormat(9.5));
+        QTextCharFormat object;
+        object.setObjectType(detail::Figures::kObjectType);
+        object.setProperty(detail::Figures::kIndexProperty, figures_.add(size, std::move(paint)));
+        cursor_.insertText(QString(QChar::ObjectReplacementCharacter), object);
+        b = blockFormat(1, 2);
+        b.setAlignment(Qt::AlignHCenter);
+        block(b, charFormat(8.5, false, true, kGrey));
+        cursor_.insertText(caption);
+    }
+
+    void solutions(const report::ReportData& r)
+    {
+        note("Os arranjos que passaram em todas as verificações, do mais leve; os " + std::to_string(r.solutions.size())
+             + " primeiros de " + std::to_string(r.solutionsFound) + ", como em \"Soluções\". Em negrito, o arranjo "
+             "deste memorial.");
+        block(blockFormat(3, 0), charFormat(9));
+        QTextTableFormat t;
+        t.setHeaderRowCount(1);
+        t.setCellPadding(layoutMm(0.6));
+        t.setCellSpacing(0);
+        t.setBorder(layoutMm(0.15));
+        t.setBorderBrush(QColor(150, 150, 150));
+        t.setBorderCollapse(true);
+        t.setAlignment(Qt::AlignLeft);
+        t.setColumnWidthConstraints({QTextLength(QTextLength::FixedLength, layoutMm(12)),
+                                     QTextLength(QTextLength::FixedLength, layoutMm(28)),
+                                     QTextLength(QTextLength::FixedLength, layoutMm(40)),
+                                     QTextLength(QTextLength::FixedLength, layoutMm(40)),
+                                     QTextLength(QTextLength::FixedLength, layoutMm(30))});
+        const int rows = static_cast<int>(r.solutions.size()) + 1;
+        QTextTable* table = cursor_.insertTable(rows, 5, t);
+        const auto cell = [&](int row, int column, const std::string& text, bool bold) {
+            QTextCursor c = table->cellAt(row, column).firstCursorPosition();
+            QTextBlockFormat b;
+            b.setAlignment(column == 0 ? Qt::AlignHCenter : Qt::AlignRight);
+            c.setBlockFormat(b);
+            c.insertText(qs(text), charFormat(8.5, bold));
+        };
+        const char* titles[] = {"Nº", "Peso (kg)", "Barras nas faces b", "Barras nas faces h", "Estribo (mm)"};
+        for (int k = 0; k < 5; ++k)
+            cell(0, k, titles[k], true);
+        for (int i = 1; i < rows; ++i) {
+            const report::SolutionLine& s = r.solutions[static_cast<std::size_t>(i) - 1];
+            cell(i, 0, std::to_string(s.position), s.shown);
+            cell(i, 1, s.weight, s.shown);
+            cell(i, 2, s.barsOnWidthFace, s.shown);
+            cell(i, 3, s.barsOnDepthFace, s.shown);
+            cell(i, 4, s.stirrup, s.shown);
+        }
+        cursor_.movePosition(QTextCursor::End);
+    }
+
+private:
+    void meta(const char* label, const std::string& value)
+    {
+        block(blockFormat(1, 0), charFormat(10));
+        cursor_.insertText(QString::fromUtf8(label) + QStringLiteral(": "));
+        cursor_.insertText(qs(value), charFormat(10, true));
+    }
+
+    static QTextBlockFormat blockFormat(double topMm, double bottomMm, double indentMm = 0, double hangingMm = 0)
+    {
+        QTextBlockFormat b;
+        b.setTopMargin(layoutMm(topMm));
+        b.setBottomMargin(layoutMm(bottomMm));
+        b.setLeftMargin(layoutMm(indentMm + hangingMm));
+        b.setTextIndent(-layoutMm(hangingMm));
+        return b;
+    }
+
+    static QTextCharFormat charFormat(double points, bool bold = false, bool italic = false,
+                                      const QColor& colour = Qt::black)
+    {
+        QTextCharFormat c;
+        c.setFont(font(points, bold, italic));
+        c.setForeground(colour);
+        return c;
+    }
+
+    // The first paragraph is the document's own empty one; every other is new.
+    void block(const QTextBlockFormat& b, const QTextCharFormat& c)
+    {
+        if (first_) {
+            cursor_.setBlockFormat(b);
+            cursor_.setBlockCharFormat(c);
+            cursor_.setCharFormat(c);
+            first_ = false;
+            return;
+        }
+        cursor_.insertBlock(b, c);
+        cursor_.setCharFormat(c);
+    }
+
+    QTextCursor cursor_;
+    detail::Figures& figures_;
+    bool first_ = true;
+};
+
+void compose(const report::ReportData& r, Builder& b)
+{
+    b.title(r);
+    int n = 0;
+    for (const auto& s : r.sections)
+        b.section(++n, s);
+
+    b.heading(QStringLiteral("%1. Mensagens e verificações do cálculo").arg(++n));
+    b.note("Cada mensagem e pergunta que o cálculo mostrou, na ordem, com o item da norma e a resposta dada.");
+    int k = 0;
+    for (const auto& m : r.messages)
+        b.message(++k, m);
+    if (r.messages.empty())
+        b.note("O cálculo não mostrou mensagem nem pergunta.");
+    b.verdict(r);
+
+    b.section(++n, r.verification);
+    if (r.diagram)
+        b.figure(QSizeF(mm(kDiagramWidth), mm(kDiagramHeight)),
+                 [d = *r.diagram](QPainter& p, const QRectF& rect) { paintDiagram(p, rect, d); },
+                 QStringLiteral("Curva de interação N_Rd–M_Rd da seção detalhada e o ponto de cálculo: verde com "
+                                "utilização até 100 %, vermelho acima."));
+
+    b.heading(QStringLiteral("%1. Desenho da seção").arg(++n));
+    std::string why = r.drawingMissing;
+    if (r.drawing && exporting::checkDrawable(*r.drawing, why)) {
+        const exporting::Extent e = exporting::drawingExtent(*r.drawing);
+        const double roomWidth = (kDrawingRoomWidth - 2 * kDrawingMargin) / 10;
+        const double roomHeight = (kDrawingRoomHeight - 2 * kDrawingMargin) / 10;
+        const double scale = report::drawingScale(e.width(), e.height(), roomWidth, roomHeight);
+        const QSizeF size(mm(e.width() / scale * 10 + 2 * kDrawingMargin),
+                          mm(e.height() / scale * 10 + 2 * kDrawingMargin));
+        b.figure(size,
+                 [g = *r.drawing, scale](QPainter& p, const QRectF& rect) { paintDrawing(p, rect, g, scale); },
+                 QStringLiteral("Seção transversal na escala %1, medidas em cm.").arg(qs(report::scaleText(scale))));
+    } else {
+        b.note(why.empty() ? std::string("Sem desenho.") : why);
+    }
+
+    if (!r.solutions.empty() || !r.solutionsNote.empty()) {
+        b.heading(QStringLiteral("%1. Soluções da busca da melhor solução").arg(++n));
+        if (!r.solutions.empty())
+            b.solutions(r);
+        else
+            b.note(r.solutionsNote);
+    }
+}
+
+// A heading left at the foot of a page, its text on the next, starts the next page.
+void keepHeadingsWithText(QTextDocument& doc, const std::vector<int>& headings)
+{
+    const double page = doc.pageSize().height();
+    QAbstractTextDocumentLayout* layout = doc.documentLayout();
+    for (int round = 0; round < 4; ++round) {
+        bool moved = false;
+        for (int position : headings) {
+            QTextBlock h = doc.findBlock(position);
+            const QTextBlock next = h.next();
+            if (!next.isValid())
+                continue;
+            const int hPage = static_cast<int>(layout->blockBoundingRect(h).top() / page);
+            const int nextPage = static_cast<int>(layout->blockBoundingRect(next).bottom() / page);
+            if (nextPage > hPage && h.blockFormat().pageBreakPolicy() != QTextFormat::PageBreak_AlwaysBefore) {
+                QTextCursor c(h);
+                QTextBlockFormat f = h.blockFormat();
+                f.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+                c.setBlockFormat(f);
+                moved = true;
+                break; // the pages after it have moved: look again from the start
+            }
+        }
+        if (!moved)
+            return;
+    }
+}
+
+void paintPageFrame(QPainter& p, const report::ReportData& r, int page, int pages)
+{
+    p.save();
+    p.setPen(QPen(kGrey, mm(0.2)));
+    const double left = mm(kLeft), right = mm(kPageWidth - kRight);
+    p.drawLine(QPointF(left, mm(17)), QPointF(right, mm(17)));
+    p.drawLine(QPointF(left, mm(kPageHeight - 14)), QPointF(right, mm(kPageHeight - 14)));
+    const QRectF top(left, mm(11), right - left, mm(5));
+    p.setPen(Qt::black);
+    p.setFont(font(8.5, true));
+    p.drawText(top, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Memorial de cálculo: ") + qs(r.project));
+    p.setFont(font(8.5));
+    p.drawText(top, Qt::AlignRight | Qt::AlignVCenter,
+               QStringLiteral("Pilarix %1   %2").arg(qs(r.stamp.version), qs(r.stamp.dateTime)));
+    const QRectF foot(left, mm(kPageHeight - 13), right - left, mm(5));
+    p.setFont(font(8));
+    p.setPen(kGrey);
+    p.drawText(foot, Qt::AlignLeft | Qt::AlignVCenter,
+               QStringLiteral("NBR 6118 (Projeto de revisão da NB1 / 2001), método das zonas de solicitação"));
+    p.setPen(Qt::black);
+    p.setFont(font(8.5));
+    p.drawText(foot, Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("%1 / %2").arg(page).arg(pages));
+    p.restore();
+}
+
+} // namespace
+
+QByteArray reportPdf(const report::ReportData& r, std::string& error)
+{
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
+        error = "O memorial em PDF precisa da parte gráfica do Qt (QGuiApplication), que o programa não iniciou.";
+        return {};
+    }
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setResolution(kDpi);
+        writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(0, 0, 0, 0),
+                                         QPageLayout::Millimeter));
+        writer.setTitle(QStringLiteral("Memorial de cálculo: ") + qs(r.project));
+        writer.setCreator(QStringLiteral("Pilarix ") + qs(r.stamp.version));
+
+        QTextDocument doc;
+        doc.documentLayout()->setPaintDevice(&writer);
+        doc.setDocumentMargin(0);
+        doc.setDefaultFont(font(9.5));
+        doc.setPageSize(QSizeF(mm(kBodyWidth), mm(kBodyHeight)));
+        detail::Figures figures;
+        doc.documentLayout()->registerHandler(detail::Figures::kObjectType, &figures);
+        Builder builder(doc, figures);
+        compose(r, builder);
+        keepHeadingsWithText(doc, builder.headings);
+
+        QPainter painter;
+        if (!painter.begin(&writer)) {
+            error = "o PDF não pôde ser gerado";
+            return {};
+        }
+        const int pages = doc.pageCount();
+        const double pageHeight = doc.pageSize().height();
+        for (int i = 0; i < pages; ++i) {
+            if (i > 0)
+                writer.newPage();
+            paintPageFrame(painter, r, i + 1, pages);
+            painter.save();
+            painter.translate(mm(kLeft), mm(kTop) - i * pageHeight);
+            // A line the layout moved to the next page starts exactly on the page's
+            // edge, and one that ends a page ends on it: a clip a hair inside the page
+            // keeps each on its own page only, so that no text is written twice,
+            // hidden under the clip, for a reader of the PDF to find.
+            constexpr double kHair = 1; // 1/1200 in
+            doc.drawContents(&painter,
+                             QRectF(0, i * pageHeight + kHair, doc.pageSize().width(), pageHeight - 2 * kHair));
+            painter.restore();
+        }
+        painter.end();
+    }
+    return buffer.data();
+}
+
+bool writeReportPdf(const report::ReportData& r, const std::string& path, std::string& error)
+{
+    if (path.empty()) {
+        error = "Não foi indicado o nome do arquivo do memorial.";
+        return false;
+    }
+    if (const int obstacle = exporting::obstacleToSaving(path)) {
+        error = exporting::saveFailure(path, obstacle);
+        return false;
+    }
+    std::string why;
+    const QByteArray bytes = reportPdf(r, why);
+    if (bytes.isEmpty()) {
+        error = exporting::saveFailure(path, why);
+        return false;
+    }
+    return saveWholeFile(bytes, path, error);
+}
+
+bool writeReport(const Program& program, const std::string& path, const report::ReportStamp& stamp,
+                 std::string& error)
+{
+    report::ReportData r;
+    std::string why;
+    if (!report::buildReport(program, stamp, r, why)) {
+        error = path.empty() ? why : exporting::saveFailure(path, why);
+        return false;
+    }
+    return writeReportPdf(r, path, error);
+}
+
+report::ReportStamp currentStamp()
+{
+    return {QDateTime::currentDateTime().toString(QStringLiteral("dd/MM/yyyy HH:mm")).toStdString(),
+            std::string(report::programVersion())};
+}
+
+} // namespace pilarix::render
+
+#include "report_pdf.moc"

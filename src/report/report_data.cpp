@@ -1,0 +1,554 @@
+// The calculation report's contents from the window's last calculation: what it was
+// given (ColumnInput), what it found (ColumnResult), the check by strain
+// compatibility and every dialog it showed. Numbers are written as the window writes
+// them (a point for the decimals), so that the report reads like the screen the
+// engineer checked it on.
+
+#include "report/report_data.h"
+
+#include "base/number_text.h"
+#include "engine/catalogue.h"
+#include "engine/checks.h"
+#include "engine/column.h"
+#include "engine/materials.h"
+#include "window/program.h"
+#include "window/units.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <filesystem>
+
+#ifndef PILARIX_VERSION
+#define PILARIX_VERSION "?"
+#endif
+
+namespace pilarix::report {
+
+std::string_view programVersion() { return PILARIX_VERSION; }
+
+std::string withoutAccessKey(std::string_view caption)
+{
+    std::string out;
+    out.reserve(caption.size());
+    for (std::size_t i = 0; i < caption.size(); ++i) {
+        if (caption[i] == '&' && i + 1 < caption.size()) {
+            out += caption[++i]; // "&&" leaves one ampersand, "&x" the x
+            continue;
+        }
+        out += caption[i];
+    }
+    return out;
+}
+
+double drawingScale(double width, double height, double roomWidth, double roomHeight)
+{
+    const double need = std::max(width / roomWidth, height / roomHeight);
+    if (!(need > 0) || !std::isfinite(need))
+        return 1;
+    static constexpr std::array<double, 4> kSteps{1, 2, 2.5, 5};
+    for (double decade = 1; decade <= 1000; decade *= 10)
+        for (double step : kSteps)
+            if (step * decade >= need)
+                return step * decade;
+    return std::ceil(need);
+}
+
+std::string scaleText(double n) { return "1:" + Str(n); }
+
+namespace {
+
+// ---- numbers ----
+
+std::string fixed(double x, int decimals)
+{
+    if (!std::isfinite(x))
+        return "—";
+    std::string mask = "##0";
+    if (decimals > 0)
+        mask += "." + std::string(static_cast<std::size_t>(decimals), '0');
+    return Format(x, mask);
+}
+
+// Four significant figures at least, whatever the unit makes of the magnitude
+// (40 Tf and 40000 Kgf alike), and never fewer decimals than `least`.
+std::string significant(double x, int least = 0)
+{
+    if (!std::isfinite(x))
+        return "—";
+    const double a = std::abs(x);
+    int decimals = a > 0 ? 3 - static_cast<int>(std::floor(std::log10(a))) : 1;
+    decimals = std::clamp(decimals, least, 6);
+    return fixed(x, decimals);
+}
+
+// A unit of the window's lists and its factor to the program's units; where the
+// list holds a name the units table does not know (a hand-edited file), the value
+// is given in kN or kN·m instead.
+struct Unit {
+    std::string name;
+    double factor;
+};
+
+Unit unitOf(const std::string& name, const char* fallbackName, double fallbackFactor)
+{
+    if (const auto f = fatorDaUnidade(name))
+        return {name, *f};
+    return {fallbackName, fallbackFactor};
+}
+
+constexpr double kKgfPerKn = 100;
+constexpr double kKgfCmPerKnM = 10000;
+constexpr double kKgfCm2PerMpa = 10;
+
+// A force in the unit of the window's list and in kN. `typed`: the value the
+// engineer typed, written back as typed rather than to four figures.
+std::string forceText(double kgf, const Unit& u, bool typed = false)
+{
+    const double v = kgf / u.factor;
+    return (typed ? Str(v) : significant(v)) + " " + u.name + " (" + fixed(kgf / kKgfPerKn, 1) + " kN)";
+}
+
+std::string momentText(double kgfCm, const Unit& u, bool typed = false)
+{
+    const double v = kgfCm / u.factor;
+    return (typed ? Str(v) : significant(v)) + " " + u.name + " (" + fixed(kgfCm / kKgfCmPerKnM, 2) + " kN·m)";
+}
+
+std::string mpa(double kgfCm2, int decimals) { return fixed(kgfCm2 / kKgfCm2PerMpa, decimals); }
+
+std::string projectName(const std::string& file)
+{
+    const std::string name = std::filesystem::path(file).filename().string();
+    if (name.empty() || name == "Padrão.txt")
+        return "sem título";
+    return name;
+}
+
+std::string trimmed(const std::string& s)
+{
+    const auto first = s.find_first_not_of(' ');
+    if (first == std::string::npos)
+        return {};
+    return s.substr(first, s.find_last_not_of(' ') - first + 1);
+}
+
+std::string barLabel(int index)
+{
+    if (index < 1 || index > engine::kBarCount)
+        return "—";
+    return std::string(engine::bar(index).label);
+}
+
+// ---- the arrangement a search put into the window ----
+
+// The row of the search's list this calculation is of: the window's arrangement is
+// the one "Soluções" has selected, as the search put it in (bars per face, the
+// stirrup, and the candidate's d' typed). None when no search ran, or when the
+// window was calculated with another arrangement since.
+const SolutionRow* solutionShown(const Program& p)
+{
+    if (p.Ordenadas.empty() || p.SolucaoAtual < 1 || static_cast<std::size_t>(p.SolucaoAtual) > p.Ordenadas.size())
+        return nullptr;
+    const SolutionRow& s = p.Ordenadas[static_cast<std::size_t>(p.SolucaoAtual) - 1];
+    const engine::ColumnInput& in = p.Entrada;
+    const bool sameBars = in.barsOnWidthFace == s.nBase && in.barsOnDepthFace == s.nAltura;
+    const bool sameStirrup =
+        in.stirrupMode == engine::StirrupMode::Predefined && in.predefinedStirrup == static_cast<int>(s.IndiceEstribo);
+    // The candidate's d' went into the box as text and was read back.
+    const bool sameDLinha =
+        !in.dLinha.automatic && std::abs(in.dLinha.typed - s.dLinha) <= 1e-9 * std::max(1.0, std::abs(s.dLinha));
+    return sameBars && sameStirrup && sameDLinha ? &s : nullptr;
+}
+
+// ---- sections ----
+
+class Writer {
+public:
+    explicit Writer(Section& s) : s_(s) {}
+    Writer& line(std::string label, std::string value, std::string unit = {}, std::string note = {})
+    {
+        s_.lines.push_back({std::move(label), std::move(value), std::move(unit), std::move(note)});
+        return *this;
+    }
+    Writer& note(std::string text)
+    {
+        s_.notes.push_back(std::move(text));
+        return *this;
+    }
+
+private:
+    Section& s_;
+};
+
+std::string dLinhaNote(const Program& p, const engine::ColumnResult& r, const SolutionRow* fromSearch)
+{
+    const std::string automatic = withoutAccessKey(p.Form1.Check3.Caption);
+    std::string note;
+    if (fromSearch)
+        note = automatic + ", achado pela busca da melhor solução";
+    else if (p.Entrada.dLinha.automatic)
+        note = automatic;
+    else
+        note = "digitado: " + Str(p.Entrada.dLinha.typed) + " cm";
+    if (r.dLinhaText)
+        note += "; reescrito pela correção do cobrimento: " + *r.dLinhaText;
+    return note;
+}
+
+void inputSection(const Program& p, const engine::ColumnResult& r, const SolutionRow* fromSearch, Section& s)
+{
+    const engine::ColumnInput& in = p.Entrada;
+    const Unit force = unitOf(p.Form1.Combo4.Text, "kN", kKgfPerKn);
+    const Unit moment = unitOf(p.Form1.Combo5.Text, "kN·m", kKgfCmPerKnM);
+    const int total =
+        r.designed ? r.design.totalBars : static_cast<int>(2 * (in.barsOnWidthFace + in.barsOnDepthFace) - 4);
+    const double dLinha = r.designed ? r.design.dLinha : in.dLinha.typed;
+
+    Writer w(s);
+    w.line("Seção b × h", Str(in.base) + " × " + Str(in.depth), "cm")
+        .line("Comprimento", Str(in.length), "cm")
+        .line("Barras por face", Str(in.barsOnWidthFace) + " nas faces de largura b, " + Str(in.barsOnDepthFace)
+                                     + " nas faces de altura h",
+              "", Str(total) + " barras ao todo")
+        .line("d′ (da face ao centro da barra)", fixed(dLinha, 3), "cm", dLinhaNote(p, r, fromSearch))
+        .line("Nd", forceText(in.Nd, force, true))
+        .line("Md", momentText(in.Md, moment, true));
+    if (r.designed) {
+        const double gn = r.design.gammaN;
+        w.line("γn", fixed(gn, 2), "", "menor dimensão da seção " + Str(r.design.smallerSide) + " cm")
+            .line("Força normal de cálculo γn·Nd", forceText(gn * in.Nd, force))
+            .line("Momento de cálculo γn·Md", momentText(gn * in.Md, moment));
+    }
+
+    const engine::Concrete c = engine::designConcrete(in.fck, in.gammaC);
+    w.line("fck do concreto", mpa(c.fck, 1), "MPa")
+        .line("γc", Str(in.gammaC))
+        .line("fcd = fck / γc", mpa(c.fcd, 2), "MPa")
+        .line("σcd = 0.85 fcd", mpa(c.sigcd, 2), "MPa");
+
+    const engine::Steel a = engine::designSteel(in.steel, in.gammaS, in.Es);
+    w.line("Aço da armadura", std::string(engine::steelGradeText(in.steel)), "", a.classB ? "classe B" : "classe A")
+        .line("fyk", mpa(a.fyk, 0), "MPa")
+        .line("γs", Str(in.gammaS))
+        .line("fyd = fyk / γs", mpa(a.fyd, 2), "MPa")
+        .line("Es", mpa(a.Es, 0), "MPa")
+        .line("εyd", fixed(a.epsYd, 3), "‰");
+
+    const auto& f = p.Form1;
+    const std::string tolerance = in.deltaC == 1     ? withoutAccessKey(f.Option1.Caption)
+                                  : in.deltaC == 0.5 ? withoutAccessKey(f.Option2.Caption)
+                                                     : std::string();
+    w.line("Diâmetro máximo do agregado graúdo", Str(in.aggregate), "cm")
+        .line("Classe de agressividade ambiental", lists::agressividade.at(static_cast<std::size_t>(in.exposure) - 1))
+        .line("Tolerância de execução do cobrimento Δc", Str(in.deltaC), "cm", tolerance)
+        .line("Correção do cobrimento", in.correctCoverWithoutAsking ? "sem perguntar" : "perguntando a cada caso")
+        .line("Precisão", Str(in.precision))
+        .line("Maior bitola longitudinal permitida", barLabel(in.maxBarIndex))
+        .line("Maior bitola de estribo permitida", barLabel(static_cast<int>(in.maxStirrupIndex)));
+}
+
+// The input as the window's boxes hold it, for a calculation that stopped while
+// reading them: nothing else of it exists.
+void typedInputSection(const Program& p, Section& s)
+{
+    const auto& f = p.Form1;
+    Writer w(s);
+    // A box left empty says so, rather than leave its unit alone.
+    const auto box = [&w](const char* label, const std::string& text, const std::string& unit = {}) {
+        if (text.empty())
+            w.line(label, "(vazia)");
+        else
+            w.line(label, text, unit);
+    };
+    box("Base b", f.Text1.Text, "cm");
+    box("Altura h", f.Text2.Text, "cm");
+    box("Comprimento", f.Text23.Text, "cm");
+    box("Barras nas faces de largura b", f.Text4.Text);
+    box("Barras nas faces de altura h", f.Text5.Text);
+    if (f.Check3.ticked())
+        w.line("d′", withoutAccessKey(f.Check3.Caption));
+    else
+        box("d′", f.Text3.Text, "cm");
+    box("Nd", f.Text16.Text, f.Combo4.Text);
+    box("Md", f.Text17.Text, f.Combo5.Text);
+    box("fck", f.Text18.Text, f.Combo6.Text);
+    box("Es", f.Text20.Text, f.Combo7.Text);
+    box("γc", f.Text21.Text);
+    box("γs", f.Text22.Text);
+    box("Aço", f.Combo1.Text);
+    box("Classe de agressividade ambiental", f.Combo2.Text);
+}
+
+std::string zoneText(engine::Zone z)
+{
+    if (z == engine::Zone::None)
+        return "nenhuma";
+    return Str(static_cast<int>(z)) + " (" + engine::zoneLetter(z) + ")";
+}
+
+void designSection(const Program& p, const engine::ColumnResult& r, Section& s)
+{
+    Writer w(s);
+    if (!r.designed) {
+        w.note(r.flag == engine::ErrorFlag::Wall
+                   ? "O pilar não foi dimensionado: a seção deve ser tratada como pilar-parede (ver as mensagens)."
+                   : "O pilar não foi dimensionado: o cálculo não pôde prosseguir (ver as mensagens).");
+        return;
+    }
+    const engine::DesignResult& d = r.design;
+    const double h = p.Entrada.depth;
+    std::string compat = "As,compat: sem verificação";
+    if (p.Verificacao)
+        compat = p.Verificacao->asCompat
+                     ? "As,compat = " + fixed(*p.Verificacao->asCompat, 2) + " cm², por compatibilidade de deformações"
+                     : "As,compat: nenhuma área de aço resiste aos esforços";
+    w.line("ν = γn·Nd / (b·h·σcd)", fixed(d.nu, 4))
+        .line("μ = γn·Md / (b·h²·σcd)", fixed(d.mu, 4))
+        .line("δ = d′ / h", fixed(d.delta, 4))
+        .line("Zona de solicitação", zoneText(d.zone))
+        .line("βx = x / h", fixed(d.betaX, 3))
+        .line("Altura da linha neutra x = βx·h", fixed(d.betaX * h, 1), "cm")
+        .line("ρ = As / Ac", fixed(d.rho, 5), "", fixed(100 * d.rho, 3) + " %")
+        .line("As,nec", fixed(d.asNec, 2), "cm²", compat);
+    if (r.detailed && d.asNec == r.asMin && d.asNec > 0)
+        w.note("A armadura mínima governa: As,nec é As,mín.");
+    if (r.byStrainCompatibility)
+        w.note("O método das zonas de solicitação não achou o equilíbrio da seção: As,nec é a área da compatibilidade "
+               "de deformações.");
+    if (r.passes > 1)
+        w.note("O cálculo foi refeito " + Str(r.passes - 1) + (r.passes == 2 ? " vez" : " vezes")
+               + " porque a correção do cobrimento mudou d′.");
+}
+
+// How the stirrup was chosen, in the words of the window's options.
+std::string stirrupChoice(const Program& p, const engine::ColumnResult& r)
+{
+    const engine::ColumnInput& in = p.Entrada;
+    const auto& f = p.Form1;
+    std::string how;
+    switch (in.stirrupMode) {
+    case engine::StirrupMode::Predefined:
+        how = withoutAccessKey(f.Option3.Caption) + " " + barLabel(in.predefinedStirrup);
+        for (const auto& c : r.checks)
+            if (c.id == engine::CheckId::PredefinedStirrupTooThin)
+                how += ", abaixo do mínimo: adotado o mínimo";
+        break;
+    case engine::StirrupMode::Economic:
+        how = withoutAccessKey(f.Option5.Caption);
+        break;
+    case engine::StirrupMode::Manual:
+        how = withoutAccessKey(f.Option6.Caption);
+        for (const auto& m : p.MensagensDoCalculo)
+            if (m.kind == DialogRecord::Kind::Stirrup)
+                how += ": " + m.respostaTexto;
+        break;
+    }
+    if (in.stirrupsOfBarSteel)
+        how += "; " + withoutAccessKey(f.Check5.Caption);
+    return how;
+}
+
+void detailSection(const Program& p, const engine::ColumnResult& r, Section& s)
+{
+    Writer w(s);
+    if (!r.detailed) {
+        w.note(r.designed ? "A seção não foi detalhada: nenhuma bitola permitida atende à área necessária, ou o "
+                            "cálculo não pôde prosseguir (ver as mensagens)."
+                          : "A seção não foi detalhada.");
+        return;
+    }
+    const engine::MethodState& m = p.metodo;
+    const engine::ColumnInput& in = p.Entrada;
+    if (r.bar)
+        w.line("Barras longitudinais", Str(r.design.totalBars) + " φ " + barLabel(r.bar->index));
+    w.line("As,ef (efetiva)", fixed(r.bar ? r.bar->providedArea : 0, 2), "cm²")
+        .line("As,mín", fixed(r.asMin, 2), "cm²")
+        .line("As,máx", fixed(r.asMax, 2), "cm²")
+        .line("Área por barra",
+              "mínima " + fixed(m.AsMinBarra, 2) + ", teórica " + fixed(m.AsBarraD, 2) + ", efetiva "
+                  + fixed(m.AsBarra, 2),
+              "cm²")
+        .line("Excesso de aço", fixed(r.excess, 2), "%")
+        .line("Espaçamento livre entre barras",
+              fixed(r.spacing.freeWidth, 2) + " cm nas faces b, " + fixed(r.spacing.freeDepth, 2) + " cm nas faces h",
+              "", "mínimo " + fixed(r.spacing.minimumFree, 2) + " cm")
+        .line("Espaçamento entre eixos das barras",
+              fixed(r.spacing.axisWidth, 2) + " cm nas faces b, " + fixed(r.spacing.axisDepth, 2) + " cm nas faces h",
+              "", "máximo " + fixed(r.spacing.maximumAxis, 2) + " cm (" + trimmed(m.TextoLimite) + ")")
+        .line("Cobrimento nominal", fixed(r.cover.nominal, 2), "cm")
+        .line("Cobrimento efetivo", fixed(r.cover.effective, 2), "cm")
+        .line("Estribo", r.stirrup.text, "", stirrupChoice(p, r))
+        .line("Diâmetro mínimo do estribo", fixed(r.stirrup.minimumDiameter * 10, 1), "mm")
+        .line("Dimensões internas do estribo",
+              fixed(r.cover.stirrupInnerWidth, 2) + " × " + fixed(r.cover.stirrupInnerDepth, 2), "cm",
+              "comprimento com os ganchos " + fixed(r.cover.stirrupLength, 2) + " cm")
+        .line("Ganchos", in.hook == engine::Hook::Angle45 ? "a 45° ou semicirculares" : "a 90°", "",
+              "os dois ganchos do estribo " + fixed(r.stirrup.hookAllowance, 2)
+                  + " cm; os dois de um estribo suplementar " + fixed(r.stirrup.tieHookAllowance, 2) + " cm")
+        .line("Estribos suplementares",
+              Str(r.tiesAcrossWidth) + " nas faces b, " + Str(r.tiesAcrossDepth) + " nas faces h")
+        .line("Peso do aço longitudinal", fixed(r.steelWeight, 2), "kg", "comprimento " + Str(in.length) + " cm");
+}
+
+// ---- messages ----
+
+// The two messages that tell without failing: the calculation goes on with the
+// minimum stirrup, or with the area of strain compatibility.
+bool onlyTells(const std::optional<engine::ColumnResult>& r, const std::string& text)
+{
+    if (!r)
+        return false;
+    for (const auto& c : r->checks)
+        if (c.text == text)
+            return c.id == engine::CheckId::PredefinedStirrupTooThin
+                   || c.id == engine::CheckId::AreaByStrainCompatibility;
+    return false;
+}
+
+std::vector<Message> messagesOf(const Program& p, bool runFailed)
+{
+    std::vector<Message> out;
+    for (const DialogRecord& d : p.MensagensDoCalculo) {
+        Message m;
+        m.window = d.janela;
+        m.text = d.mensagem;
+        m.clause = d.item;
+        switch (d.kind) {
+        case DialogRecord::Kind::Error:
+            m.kind = Message::Kind::Error;
+            m.failed = runFailed && !onlyTells(p.Resultado, d.mensagem);
+            break;
+        case DialogRecord::Kind::Cover:
+            m.kind = Message::Kind::Question;
+            m.answer = withoutAccessKey(d.respostaTexto);
+            m.failed = runFailed && d.resposta != 1; // the arrangement kept as it was
+            break;
+        case DialogRecord::Kind::Stirrup:
+            m.kind = Message::Kind::Question;
+            m.options = d.opcoes;
+            m.answer = d.respostaTexto;
+            break;
+        case DialogRecord::Kind::Notice:
+            m.kind = Message::Kind::Notice;
+            m.failed = runFailed;
+            break;
+        }
+        out.push_back(std::move(m));
+    }
+    return out;
+}
+
+// ---- the check by strain compatibility ----
+
+void verificationSection(const Program& p, ReportData& out)
+{
+    Writer w(out.verification);
+    if (!p.Verificacao) {
+        w.note("Sem verificação por compatibilidade de deformações: a seção não foi detalhada.");
+        return;
+    }
+    const engine::Verification& v = *p.Verificacao;
+    const Unit force = unitOf(p.Form1.Combo4.Text, "kN", kKgfPerKn);
+    const Unit moment = unitOf(p.Form1.Combo5.Text, "kN·m", kKgfCmPerKnM);
+    const bool finite = std::isfinite(v.utilisation);
+    w.line("N_Sd = γn·Nd", forceText(v.nSd, force))
+        .line("M_Sd = γn·Md", momentText(v.mSd, moment))
+        .line("M_Rd em N_Sd",
+              v.mRd ? momentText(*v.mRd, moment) : std::string("N_Sd fora da faixa resistente (N_Rd,mín a N_Rd,máx)"))
+        .line("N_Rd,máx", forceText(v.nRdMax, force))
+        .line("N_Rd,mín", forceText(v.nRdMin, force))
+        .line("Utilização", finite ? fixed(100 * v.utilisation, 1) : std::string("sem limite"), finite ? "%" : "",
+              v.utilisation <= 1 ? "o ponto de cálculo está dentro da curva resistente"
+                                 : "o ponto de cálculo está fora da curva resistente: a seção não resiste")
+        .line("As,compat", v.asCompat ? fixed(*v.asCompat, 2) : std::string("nenhuma área de aço resiste"),
+              v.asCompat ? "cm²" : "", "a área que o mesmo arranjo precisa para (N_Sd, M_Sd)");
+
+    Diagram d;
+    d.forceUnit = force.name;
+    d.momentUnit = moment.name;
+    d.curve.reserve(v.curve.size());
+    for (const auto& [n, m] : v.curve)
+        d.curve.emplace_back(n / force.factor, m / moment.factor);
+    d.nSd = v.nSd / force.factor;
+    d.mSd = v.mSd / moment.factor;
+    if (v.mRd)
+        d.mRd = *v.mRd / moment.factor;
+    d.utilisation = v.utilisation;
+    out.diagram = std::move(d);
+}
+
+void solutionsList(const Program& p, const SolutionRow* shown, ReportData& out)
+{
+    out.solutionsFound = p.Ordenadas.size();
+    if (p.Ordenadas.empty())
+        return;
+    if (!shown) {
+        out.solutionsNote = "A lista da última busca (" + Str(static_cast<double>(p.Ordenadas.size()))
+                            + " soluções) não é a deste cálculo: o pilar foi calculado com outro arranjo depois dela.";
+        return;
+    }
+    // A weight no arrangement reaches marks a row that holds no solution, as in "Soluções".
+    constexpr double kNoSolution = 9e35;
+    const std::size_t n = std::min(p.Ordenadas.size(), kSolutionsListed);
+    for (std::size_t i = 0; i < n; ++i) {
+        const SolutionRow& s = p.Ordenadas[i];
+        SolutionLine l;
+        l.position = static_cast<int>(i) + 1;
+        l.shown = &s == shown;
+        if (s.peso < kNoSolution) {
+            l.weight = Format(s.peso, "##0.00");
+            l.barsOnWidthFace = Str(s.nBase);
+            l.barsOnDepthFace = Str(s.nAltura);
+            const bool catalogued = s.IndiceEstribo >= 1 && s.IndiceEstribo <= engine::kLastStirrupBar
+                                    && s.IndiceEstribo == Int(s.IndiceEstribo);
+            l.stirrup = catalogued ? std::string(engine::bar(static_cast<int>(s.IndiceEstribo)).shortText)
+                                   : Str(s.DiamEstribo * 10);
+        }
+        out.solutions.push_back(std::move(l));
+    }
+}
+
+} // namespace
+
+bool buildReport(const Program& p, const ReportStamp& stamp, ReportData& out, std::string& error)
+{
+    const std::string& verdict = p.Form1.Text30.Text;
+    if (verdict.empty()) {
+        error = "não há cálculo para o memorial: calcule o pilar (\"Calcula\") antes de gerá-lo";
+        return false;
+    }
+    ReportData r;
+    r.project = projectName(p.NomeArquivo);
+    r.stamp = stamp;
+    r.verdict = verdict;
+    r.sections = {{"Dados", {}, {}}, {"Dimensionamento: método das zonas de solicitação", {}, {}},
+                  {"Detalhamento", {}, {}}};
+    if (p.Resultado) {
+        const SolutionRow* shown = solutionShown(p);
+        inputSection(p, *p.Resultado, shown, r.sections[0]);
+        designSection(p, *p.Resultado, r.sections[1]);
+        detailSection(p, *p.Resultado, r.sections[2]);
+        solutionsList(p, shown, r);
+    } else {
+        // The calculation stopped while reading the window (or a search found nothing):
+        // there is only what the boxes hold and the messages.
+        r.sections[0].title = "Dados (como estão na janela)";
+        typedInputSection(p, r.sections[0]);
+        r.sections[0].notes.push_back("O cálculo parou antes do dimensionamento (ver as mensagens): nenhum valor foi "
+                                      "calculado.");
+        r.sections[1].notes.push_back("O pilar não foi dimensionado.");
+        r.sections[2].notes.push_back("A seção não foi detalhada.");
+    }
+    r.messages = messagesOf(p, r.failed());
+    r.verification.title = "Verificação por compatibilidade de deformações";
+    verificationSection(p, r);
+    if (p.Desenho)
+        r.drawing = p.Desenho;
+    else
+        r.drawingMissing = "Sem desenho: a seção não foi detalhada.";
+    out = std::move(r);
+    return true;
+}
+
+} // namespace pilarix::report

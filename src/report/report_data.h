@@ -1,0 +1,114 @@
+#pragma once
+// The calculation report ("memorial de cálculo") of the window's last calculation,
+// as plain data, before any page is laid out: titled sections of lines "label: value
+// unit", every message of the calculation in order with its clause and the answer
+// given, the verdict of the "Erros" box, the interaction diagram in the engineer's
+// units, the section's drawing and, after a search, its lightest solutions.
+//
+//   buildReport(program, stamp, report, error)   false, with the reason, when the
+//                                                window holds no calculation to report
+//
+// The date and time and the program's version come in as a stamp, so that two
+// reports of the same project differ in nothing else. No Qt here: the PDF is
+// render/report_pdf.h's.
+
+#include "engine/geometry.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace pilarix {
+class Program;
+}
+
+namespace pilarix::report {
+
+struct ReportStamp {
+    std::string dateTime; // as it is to be printed: "31/05/2025 14:07"
+    std::string version;  // the program's version: "0.1"
+};
+
+// Pilarix's version, CMake's project version.
+std::string_view programVersion();
+
+// "label: value unit (note)"; the value and its unit stand out on the page.
+struct Line {
+    std::string label, value, unit;
+    std::string note;
+};
+
+struct Section {
+    std::string title;
+    std::vector<Line> lines;
+    // What the section adds in words: what it cannot show and why ("O pilar não foi
+    // dimensionado: ..."), or how a value came about.
+    std::vector<std::string> notes;
+};
+
+// One dialog the calculation showed, as the engineer saw it.
+struct Message {
+    enum class Kind { Error, Question, Notice };
+    Kind kind = Kind::Notice;
+    std::string window;  // the dialog's caption
+    std::string text;    // its message, as shown
+    std::string clause;  // "Item 7.4.7 ", as shown; empty when it named none
+    std::vector<std::string> options; // the stirrup choice's options, as shown
+    std::string answer;  // the button or option chosen, as the dialog words it (no access-key mark)
+    // A check that failed in a run that ended "erro": the page makes it stand out.
+    bool failed = false;
+};
+
+// The N_Rd–M_Rd curve of the detailed section and the design point, in the units of
+// the window's force and moment lists (N across, compression positive; M up).
+struct Diagram {
+    std::string forceUnit, momentUnit; // as the lists spell them: "KN", "KN.cm"
+    std::vector<std::pair<double, double>> curve; // (N, M), closed
+    double nSd = 0, mSd = 0;
+    std::optional<double> mRd; // at nSd
+    double utilisation = 0;    // a fraction; +∞ when no multiple of the point is carried
+    bool withinCurve() const { return utilisation <= 1; }
+};
+
+// A row of the search's list, as "Soluções" writes it.
+struct SolutionLine {
+    int position = 0; // 1 = the lightest
+    std::string weight, barsOnWidthFace, barsOnDepthFace, stirrup;
+    bool shown = false; // the arrangement this report is of
+};
+
+struct ReportData {
+    std::string project; // the project file's name, or "sem título"
+    ReportStamp stamp;
+    std::vector<Section> sections; // "Dados", "Dimensionamento", "Detalhamento"
+    std::vector<Message> messages;
+    std::string verdict; // the "Erros" box: "Ok" or "erro"
+    bool failed() const { return verdict != "Ok"; }
+    Section verification; // by strain compatibility
+    std::optional<Diagram> diagram;
+    std::optional<engine::SectionGeometry> drawing;
+    std::string drawingMissing; // why there is no drawing
+    std::vector<SolutionLine> solutions; // at most kSolutionsListed
+    std::size_t solutionsFound = 0;
+    std::string solutionsNote; // why a search's list is left out, when it is
+};
+
+inline constexpr std::size_t kSolutionsListed = 40;
+
+bool buildReport(const Program& program, const ReportStamp& stamp, ReportData& report, std::string& error);
+
+// The scale 1:n at which a drawing of width × height cm fits a room of roomWidth ×
+// roomHeight cm on paper: the smallest n of the usual scales (1, 2, 2.5, 5, 10, 20,
+// 25, 50 and so on), and beyond them the whole n that fits.
+double drawingScale(double width, double height, double roomWidth, double roomHeight);
+
+// "1:10", "1:2.5".
+std::string scaleText(double n);
+
+// A caption without its access-key mark, as the window shows it: "&1 - Ignorar" is
+// "1 - Ignorar", "&&" an ampersand.
+std::string withoutAccessKey(std::string_view caption);
+
+} // namespace pilarix::report
