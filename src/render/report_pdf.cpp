@@ -161,10 +161,11 @@ void paintDiagram(QPainter& p, const QRectF& rect, const report::Diagram& d)
         mLo = std::min(mLo, m);
         mHi = std::max(mHi, m);
     }
-    const Axis ax = axisFor(nLo, nHi), ay = axisFor(mLo, mHi);
+    // As in the window's diagram: the moment across, the axial force up (compression).
+    const Axis ax = axisFor(mLo, mHi), ay = axisFor(nLo, nHi);
     const QRectF plot = rect.adjusted(mm(20), mm(9), -mm(4), -mm(21));
-    const auto x = [&](double n) { return plot.left() + (n - ax.lo) / (ax.hi - ax.lo) * plot.width(); };
-    const auto y = [&](double m) { return plot.bottom() - (m - ay.lo) / (ay.hi - ay.lo) * plot.height(); };
+    const auto x = [&](double m) { return plot.left() + (m - ax.lo) / (ax.hi - ax.lo) * plot.width(); };
+    const auto y = [&](double n) { return plot.bottom() - (n - ay.lo) / (ay.hi - ay.lo) * plot.height(); };
 
     // The grid and the ticks' values.
     p.setFont(font(7));
@@ -199,9 +200,9 @@ void paintDiagram(QPainter& p, const QRectF& rect, const report::Diagram& d)
     p.setFont(font(7.5, true));
     p.setPen(Qt::black);
     p.drawText(QRectF(plot.left(), plot.bottom() + mm(7.5), plot.width(), mm(5)), Qt::AlignHCenter | Qt::AlignTop,
-               QStringLiteral("N (%1), compressão positiva").arg(qs(d.forceUnit)));
-    p.drawText(QRectF(rect.left(), rect.top(), mm(60), mm(6)), Qt::AlignLeft | Qt::AlignTop,
                QStringLiteral("M (%1)").arg(qs(d.momentUnit)));
+    p.drawText(QRectF(rect.left(), rect.top(), mm(80), mm(6)), Qt::AlignLeft | Qt::AlignTop,
+               QStringLiteral("N (%1), compressão positiva").arg(qs(d.forceUnit)));
 
     // The curve, inside the frame (and inside the page the painter is clipped to).
     p.save();
@@ -210,7 +211,7 @@ void paintDiagram(QPainter& p, const QRectF& rect, const report::Diagram& d)
         QPolygonF poly;
         poly.reserve(static_cast<qsizetype>(d.curve.size()));
         for (const auto& [n, m] : d.curve)
-            poly << QPointF(x(n), y(m));
+            poly << QPointF(x(m), y(n));
         QPainterPath path;
         path.addPolygon(poly);
         path.closeSubpath();
@@ -219,9 +220,9 @@ void paintDiagram(QPainter& p, const QRectF& rect, const report::Diagram& d)
         p.drawPath(path);
     }
     // M_Rd at N_Sd, on the curve above the design point.
-    const QPointF sd(x(d.nSd), y(d.mSd));
+    const QPointF sd(x(d.mSd), y(d.nSd));
     if (d.mRd) {
-        const QPointF rd(x(d.nSd), y(*d.mRd));
+        const QPointF rd(x(*d.mRd), y(d.nSd));
         p.setPen(QPen(kGrey, mm(0.25), Qt::DashLine));
         p.drawLine(sd, rd);
         p.setPen(QPen(kCurveColour, mm(0.3)));
