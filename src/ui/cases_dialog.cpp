@@ -1,0 +1,255 @@
+#include "ui/cases_dialog.h"
+
+#include "base/number_text.h"
+#include "ui/interaction_plot.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace pilarix::ui {
+
+namespace {
+enum Coluna { kNome, kNd, kMd, kZona, kBetaX, kAsNec, kUtilizacao, kColunas };
+
+QString qs(const std::string& s) { return QString::fromStdString(s); }
+
+QTableWidgetItem* resultado(const QString& texto)
+{
+    auto* item = new QTableWidgetItem(texto);
+    item->setFlags(item->flags() & ~Qt::ItemIsEditable);
+    item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return item;
+}
+} // namespace
+
+QString numeroNormalizado(const QString& texto)
+{
+    QString t = texto.trimmed();
+    if (t.count(QLatin1Char(',')) == 1 && !t.contains(QLatin1Char('.')))
+        t.replace(QLatin1Char(','), QLatin1Char('.'));
+    return IsNumber(t.toStdString()) ? t : QString();
+}
+
+CasesDialog::CasesDialog(Program& program, std::function<void()> alterou, QWidget* parent)
+    : QDialog(parent), p_(program), alterou_(std::move(alterou))
+{
+    setObjectName(QStringLiteral("frmCasos"));
+    setWindowTitle(QStringLiteral("Combinações de esforços"));
+    auto* v = new QVBoxLayout(this);
+    auto* nota = new QLabel(QStringLiteral(
+        "A primeira linha é o Nd e o Md da janela principal. Com dois casos ou mais, \"Calcula\" dimensiona cada caso, "
+        "detalha o que pede mais aço e verifica a seção detalhada para todos."));
+    nota->setWordWrap(true);
+    v->addWidget(nota);
+
+    tabela_ = new QTableWidget(0, kColunas);
+    tabela_->setObjectName(QStringLiteral("tblCasos"));
+    tabela_->verticalHeader()->setVisible(false);
+    tabela_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    tabela_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    v->addWidget(tabela_, 1);
+    connect(tabela_, &QTableWidget::cellChanged, this, &CasesDialog::editou);
+
+    aviso_ = new QLabel;
+    aviso_->setObjectName(QStringLiteral("lblAvisoCasos"));
+    aviso_->setWordWrap(true);
+    aviso_->setStyleSheet(QStringLiteral("color: rgb(205, 30, 30);"));
+    v->addWidget(aviso_);
+
+    auto* botoes = new QHBoxLayout;
+    auto* adicionar = new QPushButton(QStringLiteral("&Adicionar"));
+    auto* remover = new QPushButton(QStringLiteral("&Remover"));
+    auto* colar = new QPushButton(QStringLiteral("C&olar da planilha"));
+    auto* fechar = new QPushButton(QStringLiteral("&Fechar"));
+    adicionar->setObjectName(QStringLiteral("cmdAdicionarCaso"));
+    remover->setObjectName(QStringLiteral("cmdRemoverCaso"));
+    colar->setObjectName(QStringLiteral("cmdColarCasos"));
+    colar->setToolTip(QStringLiteral("Linhas copiadas de uma planilha: nome, Nd e Md separados por tabulação "
+                                     "(vírgula ou ponto decimal)"));
+    for (auto* b : {adicionar, remover, colar, fechar})
+        b->setAutoDefault(false);
+    connect(adicionar, &QPushButton::clicked, this, &CasesDialog::adiciona);
+    connect(remover, &QPushButton::clicked, this, &CasesDialog::remove);
+    connect(colar, &QPushButton::clicked, this, &CasesDialog::colaDaAreaDeTransferencia);
+    connect(fechar, &QPushButton::clicked, this, &QDialog::close);
+    botoes->addWidget(adicionar);
+    botoes->addWidget(remover);
+    botoes->addWidget(colar);
+    botoes->addStretch();
+    botoes->addWidget(fechar);
+    v->addLayout(botoes);
+    resize(720, 360);
+}
+
+void CasesDialog::carrega()
+{
+    carregando_ = true;
+    const auto& f = p_.Form1;
+    tabela_->setHorizontalHeaderLabels({QStringLiteral("Nome"), QStringLiteral("Nd (%1)").arg(qs(f.Combo4.Text)),
+                                        QStringLiteral("Md (%1)").arg(qs(f.Combo5.Text)), QStringLiteral("Zona"),
+                                        QStringLiteral("βx"), QStringLiteral("As,nec (cm2)"),
+                                        QStringLiteral("Utilização")});
+    tabela_->setRowCount(static_cast<int>(p_.OutrosCasos.size()) + 1);
+    const auto linha = [&](int i, const std::string& nome, const std::string& nd, const std::string& md) {
+        tabela_->setItem(i, kNome, new QTableWidgetItem(qs(nome)));
+        tabela_->setItem(i, kNd, new QTableWidgetItem(qs(nd)));
+        tabela_->setItem(i, kMd, new QTableWidgetItem(qs(md)));
+        for (int c = kZona; c < kColunas; ++c)
+            tabela_->setItem(i, c, resultado(QString()));
+    };
+    linha(0, p_.NomeDoCaso1, f.Text16.Text, f.Text17.Text);
+    for (std::size_t i = 0; i < p_.OutrosCasos.size(); ++i) {
+        const auto& c = p_.OutrosCasos[i];
+        linha(static_cast<int>(i) + 1, c.nome, c.nd, c.md);
+    }
+    // The results of the last calculation with these cases.
+    const auto& r = p_.ResultadosDosCasos;
+    if (r.size() == static_cast<std::size_t>(tabela_->rowCount())) {
+        for (int i = 0; i < tabela_->rowCount(); ++i) {
+            const auto& c = r[static_cast<std::size_t>(i)];
+            tabela_->item(i, kZona)->setText(QString::number(static_cast<int>(c.zona)) + QStringLiteral(" (")
+                                              + QString::fromLatin1(engine::zoneLetter(c.zona)) + QStringLiteral(")"));
+            tabela_->item(i, kBetaX)->setText(qs(Format(c.betaX, "##0.000")));
+            tabela_->item(i, kAsNec)->setText(qs(Format(c.asNec, "##0.00")));
+            tabela_->item(i, kUtilizacao)->setText(utilisationText(c.utilizacao));
+            const bool falha = !(c.utilizacao <= 1);
+            for (int col = 0; col < kColunas; ++col) {
+                auto* item = tabela_->item(i, col);
+                QFont fonte = item->font();
+                fonte.setBold(c.governa);
+                item->setFont(fonte);
+                if (falha)
+                    item->setForeground(QColor(205, 30, 30));
+            }
+            if (c.governa)
+                tabela_->item(i, kNome)->setToolTip(QStringLiteral("Caso determinante: o que pede mais aço"));
+        }
+    }
+    carregando_ = false;
+}
+
+void CasesDialog::avisa(const QString& texto) { aviso_->setText(texto); }
+
+void CasesDialog::editou(int linha, int coluna)
+{
+    if (carregando_)
+        return;
+    auto* item = tabela_->item(linha, coluna);
+    if (!item)
+        return;
+    if (coluna == kNd || coluna == kMd) {
+        const QString n = numeroNormalizado(item->text());
+        if (n.isEmpty()) {
+            avisa(QStringLiteral("Linha %1: \"%2\" não é um número (use vírgula ou ponto decimal).")
+                      .arg(linha + 1)
+                      .arg(item->text()));
+            carrega();
+            return;
+        }
+        carregando_ = true;
+        item->setText(n);
+        carregando_ = false;
+    } else if (coluna == kNome) {
+        // The name goes into the project file, where a comma or a semicolon would split it.
+        const QString nome = item->text().trimmed();
+        if (nome.isEmpty() || nome.contains(QLatin1Char(',')) || nome.contains(QLatin1Char(';'))) {
+            avisa(QStringLiteral("Linha %1: o nome do caso não pode ficar vazio nem ter vírgula ou ponto e vírgula.")
+                      .arg(linha + 1));
+            carrega();
+            return;
+        }
+    }
+    avisa(QString());
+    guarda();
+}
+
+void CasesDialog::guarda()
+{
+    auto texto = [&](int i, int c) { return tabela_->item(i, c) ? tabela_->item(i, c)->text().toStdString() : ""; };
+    p_.NomeDoCaso1 = texto(0, kNome);
+    p_.Form1.Text16.Text = texto(0, kNd);
+    p_.Form1.Text17.Text = texto(0, kMd);
+    p_.OutrosCasos.clear();
+    for (int i = 1; i < tabela_->rowCount(); ++i)
+        p_.OutrosCasos.push_back({texto(i, kNome), texto(i, kNd), texto(i, kMd)});
+    // Results of other cases are not the results of these.
+    p_.ResultadosDosCasos.clear();
+    if (alterou_)
+        alterou_();
+    carrega();
+}
+
+void CasesDialog::adiciona()
+{
+    const auto n = p_.OutrosCasos.size() + 2;
+    p_.OutrosCasos.push_back({std::to_string(n), p_.Form1.Text16.Text, p_.Form1.Text17.Text});
+    p_.ResultadosDosCasos.clear();
+    if (alterou_)
+        alterou_();
+    carrega();
+    tabela_->setCurrentCell(tabela_->rowCount() - 1, kNome);
+}
+
+void CasesDialog::remove()
+{
+    const int linha = tabela_->currentRow();
+    if (linha <= 0) {
+        avisa(QStringLiteral("O primeiro caso é o Nd e o Md da janela principal: altere-o, não o remova."));
+        return;
+    }
+    p_.OutrosCasos.erase(p_.OutrosCasos.begin() + (linha - 1));
+    p_.ResultadosDosCasos.clear();
+    avisa(QString());
+    if (alterou_)
+        alterou_();
+    carrega();
+}
+
+bool CasesDialog::cola(const QString& texto)
+{
+    std::vector<CasoDeCarga> novos;
+    const QStringList linhas = texto.split(QLatin1Char('\n'));
+    for (int i = 0; i < linhas.size(); ++i) {
+        const QString l = linhas[i].trimmed();
+        if (l.isEmpty())
+            continue;
+        QStringList campos = l.split(QLatin1Char('\t'));
+        if (campos.size() == 2)
+            campos.prepend(QString::number(p_.OutrosCasos.size() + novos.size() + 2));
+        const QString nd = campos.size() == 3 ? numeroNormalizado(campos[1]) : QString();
+        const QString md = campos.size() == 3 ? numeroNormalizado(campos[2]) : QString();
+        const QString nome = campos.size() == 3 ? campos[0].trimmed() : QString();
+        if (nd.isEmpty() || md.isEmpty() || nome.isEmpty() || nome.contains(QLatin1Char(','))
+            || nome.contains(QLatin1Char(';'))) {
+            avisa(QStringLiteral("Linha %1 colada não é um caso (nome, Nd e Md separados por tabulação): \"%2\". "
+                                 "Nada foi colado.")
+                      .arg(i + 1)
+                      .arg(l));
+            return false;
+        }
+        novos.push_back({nome.toStdString(), nd.toStdString(), md.toStdString()});
+    }
+    if (novos.empty()) {
+        avisa(QStringLiteral("Não há casos para colar."));
+        return false;
+    }
+    p_.OutrosCasos.insert(p_.OutrosCasos.end(), novos.begin(), novos.end());
+    p_.ResultadosDosCasos.clear();
+    avisa(QString());
+    if (alterou_)
+        alterou_();
+    carrega();
+    return true;
+}
+
+void CasesDialog::colaDaAreaDeTransferencia() { cola(QApplication::clipboard()->text()); }
+
+} // namespace pilarix::ui

@@ -1,0 +1,74 @@
+// "Combinações de esforços": cases typed and pasted as an engineer has them, and the
+// results of a calculation with several cases.
+
+#include "ui/cases_dialog.h"
+#include "window/policy_dialogs.h"
+
+#include <QLabel>
+#include <QTableWidget>
+
+#include <gtest/gtest.h>
+
+using namespace pilarix;
+
+namespace {
+struct Casos {
+    PolicyDialogs d;
+    Program p{d};
+    int alteracoes = 0;
+    ui::CasesDialog dialogo{p, [this] { ++alteracoes; }};
+    Casos() { dialogo.carrega(); }
+};
+} // namespace
+
+TEST(UiCasos, PastedSpreadsheetRowsBecomeCasesWithAPointDecimal)
+{
+    Casos c;
+    ASSERT_TRUE(c.dialogo.cola(QStringLiteral("topo\t400,5\t10000\r\nbase\t600\t4000,25\n\n")));
+    ASSERT_EQ(c.p.OutrosCasos.size(), 2u);
+    EXPECT_EQ(c.p.OutrosCasos[0].nome, "topo");
+    EXPECT_EQ(c.p.OutrosCasos[0].nd, "400.5");
+    EXPECT_EQ(c.p.OutrosCasos[1].md, "4000.25");
+    EXPECT_EQ(c.dialogo.tabela()->rowCount(), 3) << "the main window's case and the two pasted";
+    EXPECT_EQ(c.alteracoes, 1);
+
+    // A line that is not a case pastes nothing, and says which.
+    for (const char* ruim : {"vento\t1.234,5\t10", "vento\tmuito\t10", "um;dois\t1\t2", "só um campo"}) {
+        EXPECT_FALSE(c.dialogo.cola(QString::fromUtf8(ruim))) << ruim;
+        EXPECT_EQ(c.p.OutrosCasos.size(), 2u) << ruim;
+        EXPECT_FALSE(c.dialogo.aviso()->text().isEmpty()) << ruim;
+    }
+}
+
+TEST(UiCasos, TheFirstRowIsTheMainWindowsForcesAndCannotBeRemoved)
+{
+    Casos c;
+    c.dialogo.adiciona();
+    ASSERT_EQ(c.p.OutrosCasos.size(), 1u);
+    auto* t = c.dialogo.tabela();
+    t->item(0, 1)->setText(QStringLiteral("750,5"));
+    EXPECT_EQ(c.p.Form1.Text16.Text, "750.5");
+    t->item(1, 2)->setText(QStringLiteral("abc"));
+    EXPECT_EQ(c.p.OutrosCasos[0].md, c.p.Form1.Text17.Text) << "a value that is not a number is refused";
+    t->setCurrentCell(0, 0);
+    c.dialogo.remove();
+    EXPECT_EQ(c.p.OutrosCasos.size(), 1u);
+    t->setCurrentCell(1, 0);
+    c.dialogo.remove();
+    EXPECT_TRUE(c.p.OutrosCasos.empty());
+}
+
+TEST(UiCasos, AfterACalculationEachCaseShowsItsResultsAndTheGoverningOne)
+{
+    Casos c;
+    c.p.Form1.Text3.Text = "4";
+    ASSERT_TRUE(c.dialogo.cola(QStringLiteral("vento\t200\t15000\nbase\t600\t4000")));
+    c.p.Command1_Click();
+    ASSERT_EQ(c.p.ResultadosDosCasos.size(), 3u);
+    c.dialogo.carrega();
+    auto* t = c.dialogo.tabela();
+    EXPECT_TRUE(t->item(1, 0)->font().bold()) << "the wind case needs the most steel";
+    EXPECT_FALSE(t->item(0, 0)->font().bold());
+    EXPECT_EQ(t->item(1, 3)->text(), QStringLiteral("2 (C)"));
+    EXPECT_TRUE(t->item(2, 6)->text().endsWith(QStringLiteral("%")));
+}
