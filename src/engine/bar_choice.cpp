@@ -9,13 +9,8 @@
 namespace pilarix::engine {
 
 namespace {
-const Bar& catalogueBar(int index)
-{
-    if (index < 1 || index > kBarCount)
-        throw CalcError("Índice fora dos limites: AreaBitola(" + std::to_string(index) + "), permitido de 1 a "
-                        + std::to_string(kBarCount) + ".");
-    return bar(index);
-}
+// Looked up by the AreaBitola column, as the bar choice reads the catalogue.
+const Bar& catalogueBar(int index) { return bar(index, "AreaBitola"); }
 } // namespace
 
 std::optional<BarChoice> smallestBar(double areaPerBar, int totalBars, int maxBarIndex)

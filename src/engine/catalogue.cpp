@@ -25,11 +25,11 @@ constexpr std::array<Bar, kBarCount> kBars{{
 
 std::span<const Bar> catalogue() { return kBars; }
 
-const Bar& bar(int index)
+const Bar& bar(int index, const char* column)
 {
     if (index < 1 || index > kBarCount)
-        throw CalcError("Índice fora dos limites: DiamBitola(" + std::to_string(index) + "), permitido de 1 a "
-                        + std::to_string(kBarCount) + ".");
+        throw CalcError("Índice fora dos limites: " + std::string(column) + "(" + std::to_string(index)
+                        + "), permitido de 1 a " + std::to_string(kBarCount) + ".");
     return kBars[static_cast<std::size_t>(index - 1)];
 }
 

@@ -29,8 +29,9 @@ inline constexpr int kLastStirrupBar = 4;       // 10 mm: the thickest stirrup
 
 std::span<const Bar> catalogue();
 
-// The bar of index i; outside 1 to 11 a CalcError names the index.
-const Bar& bar(int index);
+// The bar of index i; outside 1 to 11 a CalcError names the index (and the
+// catalogue's column that was looked up: "DiamBitola", "AreaBitola").
+const Bar& bar(int index, const char* column = "DiamBitola");
 
 // The index of the bar whose label (point or comma spelling) is `text`; 0 if none is.
 int barIndexByLabel(std::string_view text);

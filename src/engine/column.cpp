@@ -64,6 +64,7 @@ private:
     bool designPass(ColumnResult& r);
     void areaByStrainCompatibility(ColumnResult& r, bool zoneFound);
     void chooseBar(ColumnResult& r);
+    void takeBar(ColumnResult& r, const BarChoice& b);
     void chooseStirrup(ColumnResult& r);
     void chooseStirrupByMode(ColumnResult& r);
     void checkCandidateStirrup();
@@ -242,18 +243,24 @@ void Passes::areaByStrainCompatibility(ColumnResult& r, bool zoneFound)
     startFloatingPointWatch();
 }
 
+// The bar of the column: the counter of the catalogue ends on it.
+void Passes::takeBar(ColumnResult& r, const BarChoice& b)
+{
+    r.bar = b;
+    s.Indice = b.index;
+    s.AsBarra = b.barArea;
+    s.AsReal = b.providedArea;
+    s.DiamLong = b.diameter;
+    s.PesoLinearLong = b.massPerMetre;
+}
+
 // The thinnest allowed bar for the area required per bar, then the 1/8 rule. A bar
 // the engineer fixed is taken as it is, and every rule still applies to it.
 void Passes::chooseBar(ColumnResult& r)
 {
     if (in_.fixedBarIndex != 0 && !silent()) {
         const Bar& fixed = bar(in_.fixedBarIndex);
-        r.bar = BarChoice{fixed.index, fixed.diameter, fixed.area, s.NBarrasTotal * fixed.area, fixed.mass};
-        s.Indice = fixed.index;
-        s.AsBarra = fixed.area;
-        s.AsReal = s.NBarrasTotal * fixed.area;
-        s.DiamLong = fixed.diameter;
-        s.PesoLinearLong = fixed.mass;
+        takeBar(r, {fixed.index, fixed.diameter, fixed.area, s.NBarrasTotal * fixed.area, fixed.mass});
         if (fixed.area < s.AsNecBarra)
             fail(r, checks::fixedBarBelowRequired(fixed.diameter, fixed.area, s.AsNecBarra));
         if (exceedsEighthOfSide(s.DiamLong, s.MenorDim))
@@ -270,12 +277,7 @@ void Passes::chooseBar(ColumnResult& r)
         check("AsReal23");
         return;
     }
-    r.bar = bar;
-    s.Indice = bar->index;
-    s.AsBarra = bar->barArea;
-    s.AsReal = bar->providedArea;
-    s.DiamLong = bar->diameter;
-    s.PesoLinearLong = bar->massPerMetre;
+    takeBar(r, *bar);
     if (exceedsEighthOfSide(s.DiamLong, s.MenorDim))
         fail(r, silent() ? Check{CheckId::BarAboveEighthOfSide, {}, {}, true}
                          : checks::barAboveEighthOfSide(s.DiamLong, s.MenorDim));
@@ -493,12 +495,7 @@ void Passes::limitSteel(ColumnResult& r)
         if (const auto b = smallestBar(s.AsNecBarra, s.NBarrasTotal, in_.maxBarIndex)) {
             // The 1/8 rule is not checked again. Not a message: it tells that the bar
             // was chosen again, and clears an earlier failure.
-            r.bar = b;
-            s.Indice = b->index;
-            s.AsBarra = b->barArea;
-            s.AsReal = b->providedArea;
-            s.DiamLong = b->diameter;
-            s.PesoLinearLong = b->massPerMetre;
+            takeBar(r, *b);
             s.MensagemErro = "voltar";
             s.FlagErro = ErrorFlag::None;
         } else {

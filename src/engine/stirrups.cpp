@@ -10,13 +10,8 @@
 namespace pilarix::engine {
 
 namespace {
-const Bar& catalogueBar(int index)
-{
-    if (index < 1 || index > kBarCount)
-        throw CalcError("Índice fora dos limites: DiamBitola(" + std::to_string(index) + "), permitido de 1 a "
-                        + std::to_string(kBarCount) + ".");
-    return bar(index);
-}
+// Looked up by the DiamBitola column, as the bar choice reads the catalogue.
+const Bar& catalogueBar(int index) { return bar(index, "DiamBitola"); }
 } // namespace
 
 StirrupRules stirrupRules(double barDiameter, double smallerSide, SteelGrade grade)
