@@ -87,13 +87,13 @@ public:
     // given: the error dialogs, the cover question, the stirrup choice, the notices.
     std::vector<DialogRecord> MensagensDoCalculo;
 
-    // The pass Programa0 runs: the interactive pass (reads the window, asks, shows
-    // every message and the results) or the silent pass of the search (reads
-    // nothing, shows nothing, keeps the arrangement if it passes). A "&Calcula" with
-    // "d' automático f(cobrimento)" ticked runs the silent pass on the values
-    // already read, as the program always did.
+    // The pass a calculation runs: the interactive pass of "&Calcula" (reads the
+    // window, asks, shows every message and the results) or the silent pass of the
+    // best-solution search (shows nothing, keeps the arrangements that pass). The
+    // silent pass is the search's own state, never a box of the window: "d'
+    // automático f(cobrimento)" ticked only means that d' comes from the cover.
     enum class Passe { Interativo, Silencioso };
-    Passe passeDoCalculo() const { return Form1.Check3.ticked() ? Passe::Silencioso : Passe::Interativo; }
+    Passe passeDoCalculo() const { return buscaEmCurso_ ? Passe::Silencioso : Passe::Interativo; }
 
     // ---- driver (window/programa.cpp) ----
     void Programa0();
@@ -126,12 +126,10 @@ public:
     double NSolucoes = 0;
     std::int16_t SolucaoAtual = 0;
     std::string SolucaoNoForm; // "s" once a stored solution has been put into the window
-    double IndiceEstriboBusca = 0; // stirrup of the arrangement a silent pass stores
     std::vector<SolutionRow> Solucoes;  // in the order of discovery
     std::vector<SolutionRow> Ordenadas; // ascending by weight, stable
 
     void Command8_Click();  // "Calcula &melhor solução"
-    void GuardaValores42();
     void EscolheValores43();
     void ValoresnoForm1144();
     void Command11_Click(); // "&Outras soluções"
@@ -180,10 +178,11 @@ public:
 private:
     void programa0Passes();
     void passeInterativo();
-    void passeSilencioso();
     void finalDeErro();
 
     DialogPort* dialogs_;
+    bool buscaEmCurso_ = false;
+    friend class BuscaEmCurso;
 };
 
 } // namespace pilarix

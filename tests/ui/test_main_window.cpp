@@ -462,6 +462,22 @@ TEST(UiJanela, TickingAutomaticDTakesTheDBoxAndItsEstimateOutOfUse)
     EXPECT_TRUE(j.botao("Command17")->isEnabled());
 }
 
+TEST(UiJanela, AutomaticDCalculatesFromTheCoverAndShowsEverything)
+{
+    // d' typed as 1 cm would put the bars inside the cover; ticked, the box is not
+    // read: d' comes from the cover and the pass shows its results and messages.
+    Janela j;
+    j.digita("Text3", "1");
+    j.w.findChild<QCheckBox*>(QStringLiteral("Check3"))->click();
+    j.clica("Command1");
+    EXPECT_EQ(j.p.passeDoCalculo(), Program::Passe::Interativo);
+    EXPECT_EQ(j.texto("Text30"), "Ok");
+    EXPECT_EQ(j.texto("Text27"), "φ5 c/15");
+    EXPECT_GT(Val(j.texto("Text3")), 3.0) << "the d' found is shown in its box";
+    EXPECT_TRUE(j.w.desenho()->hasSection());
+    EXPECT_FALSE(j.texto("TextUtilizacao").empty());
+}
+
 // ---- the window itself ----
 
 TEST(UiJanela, MenusHoldTheProgramsItemsInTheirOrder)
