@@ -113,6 +113,9 @@ public:
 
     // ---- input (window/read_input.cpp, window/units.cpp) ----
     void Ler02();
+    // What the last Ler02 rewrote in the boxes (a side raised to 12 cm, a bar count
+    // that does not fit), said to the user beside the corrected box.
+    std::vector<std::string> CorrecoesDaLeitura;
     void Unidades30();
     void UltimoDiametroLongitudunal();
     void UltimoDiametroEstribo();
@@ -121,6 +124,12 @@ public:
     // ---- result boxes (window/results.cpp) ----
     void Zera31();
     void Imprime37();
+    // Nothing calculated on show: the result boxes, the drawing, the check, the
+    // messages of the last calculation and the list of the search are cleared.
+    void LimpaResultados();
+    // Counts the calculations run (of "&Calcula", the step buttons and the search),
+    // so that the window knows when what it shows was calculated.
+    unsigned CalculosFeitos = 0;
 
     // ---- best-solution search (window/solutions.cpp) ----
     double NSolucoes = 0;
@@ -130,6 +139,9 @@ public:
     std::vector<SolutionRow> Ordenadas; // ascending by weight, stable
 
     void Command8_Click();  // "Calcula &melhor solução"
+    // The list of the search no longer belongs to the window's input: it is emptied
+    // and its buttons hidden.
+    void LimpaSolucoes();
     void EscolheValores43();
     void ValoresnoForm1144();
     void Command11_Click(); // "&Outras soluções"

@@ -178,6 +178,7 @@ void Program::Programa0()
 
 void Program::programa0Passes()
 {
+    ++CalculosFeitos;
     MensagensDoCalculo.clear();
     metodo.Recalcula = engine::Recalculation::No;
     Form1.Image1Visible = false;

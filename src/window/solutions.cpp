@@ -184,19 +184,25 @@ void buscaMelhorSolucao(Program& p)
 
 void Program::Command8_Click()
 {
+    ++CalculosFeitos;
     try {
         buscaMelhorSolucao(*this);
     } catch (const CalcError& e) {
         // A failure of the method ends the whole search; a list of what was found
         // before it would not be the list of this section.
-        Solucoes.clear();
-        Ordenadas.clear();
-        NSolucoes = 0;
-        SolucaoAtual = 0;
-        limpaLista(Form11);
-        botoesDaLista(Form1, false);
+        LimpaSolucoes();
         falhaDeCalculo(e.what());
     }
+}
+
+void Program::LimpaSolucoes()
+{
+    Solucoes.clear();
+    Ordenadas.clear();
+    NSolucoes = 0;
+    SolucaoAtual = 0;
+    limpaLista(Form11);
+    botoesDaLista(Form1, false);
 }
 
 void Program::EscolheValores43()
