@@ -5,7 +5,7 @@
 
 PACKAGES := cmake make g++ pkg-config qt6-base-dev libgl-dev libgtest-dev libgmock-dev \
             libbenchmark-dev nlohmann-json3-dev libdxflib-dev qt6-svg-dev python3-ezdxf \
-            poppler-utils
+            poppler-utils qt6-translations-l10n
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
 .PHONY: run test bench deps build build-asan cli clean

@@ -1,5 +1,7 @@
 #include "ui/cover_dialog.h"
 
+#include "ui/text_fit.h"
+
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -23,7 +25,6 @@ CoverDialog::CoverDialog(QWidget* parent) : QDialog(parent)
     mensagem_->setObjectName(QStringLiteral("Label2"));
     mensagem_->setTextFormat(Qt::PlainText);
     mensagem_->setWordWrap(true);
-    mensagem_->setMinimumWidth(420);
 
     item_ = new QLabel(this);
     item_->setObjectName(QStringLiteral("Label3"));
@@ -57,6 +58,7 @@ CoverDialog::CoverDialog(QWidget* parent) : QDialog(parent)
     raiz->addWidget(item_);
     raiz->addSpacing(10);
     raiz->addLayout(linhaBotoes);
+    raiz->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void CoverDialog::preenche(const Form4Model& form)
@@ -68,6 +70,7 @@ void CoverDialog::preenche(const Form4Model& form)
     primeiro_->setText(QString::fromStdString(form.Command2.Caption));
     ignorar_->setText(QString::fromStdString(form.Command1.Caption));
     primeiro_->setFocus();
+    ajustaAoTexto(mensagem_, 420);
     adjustSize();
 }
 

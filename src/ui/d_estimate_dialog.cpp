@@ -1,11 +1,15 @@
 #include "ui/d_estimate_dialog.h"
 
+#include "ui/key_filters.h"
+
+#include <QApplication>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 namespace pilarix::ui {
@@ -35,6 +39,16 @@ DEstimateDialog::DEstimateDialog(Form5Model& form, std::function<void()> calcula
         e->setMaximumWidth(90);
         e->setAlignment(Qt::AlignRight);
     }
+    // The cover is typed as in Brazil, the comma taken as the decimal point.
+    auto* filtro = new KeyFilter(
+        Teclas::Decimal,
+        [this](QWidget*, const QString& motivo) {
+            QApplication::beep();
+            QToolTip::showText(text1_->mapToGlobal(QPoint(0, text1_->height())),
+                               QStringLiteral("Cobrimento (mm): ") + motivo, text1_);
+        },
+        this);
+    filtro->instala(text1_);
 
     auto* grade = new QGridLayout;
     auto rotulo = [this](const char* texto, QWidget* buddy) {

@@ -1,8 +1,11 @@
 #include "ui/error_dialog.h"
 
+#include "ui/text_fit.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -20,7 +23,6 @@ ErrorDialog::ErrorDialog(QWidget* parent) : QDialog(parent)
     mensagem_->setObjectName(QStringLiteral("Label1"));
     mensagem_->setWordWrap(true);
     mensagem_->setTextFormat(Qt::PlainText);
-    mensagem_->setMinimumWidth(380);
     mensagem_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     QFont f = mensagem_->font();
     f.setPointSizeF(f.pointSizeF() + 1);
@@ -40,8 +42,15 @@ ErrorDialog::ErrorDialog(QWidget* parent) : QDialog(parent)
     continuar_->setDefault(true);
     connect(continuar_, &QPushButton::clicked, this, &QDialog::accept);
 
+    // A message longer than the screen allows scrolls; any other shows whole.
+    rolagem_ = new QScrollArea(this);
+    rolagem_->setObjectName(QStringLiteral("rolagemMensagem"));
+    rolagem_->setFrameShape(QFrame::NoFrame);
+    rolagem_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    rolagem_->setWidget(mensagem_);
+
     auto* textos = new QVBoxLayout;
-    textos->addWidget(mensagem_);
+    textos->addWidget(rolagem_);
     textos->addSpacing(6);
     textos->addWidget(item_);
     auto* topo = new QHBoxLayout;
@@ -54,6 +63,7 @@ ErrorDialog::ErrorDialog(QWidget* parent) : QDialog(parent)
     raiz->addLayout(topo);
     raiz->addSpacing(8);
     raiz->addLayout(botoes);
+    raiz->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void ErrorDialog::preenche(const Form2Model& form)
@@ -63,6 +73,9 @@ void ErrorDialog::preenche(const Form2Model& form)
     item_->setText(QString::fromStdString(form.Label2.Caption));
     item_->setVisible(!form.Label2.Caption.empty());
     continuar_->setText(QString::fromStdString(form.Command1.Caption));
+    ajustaAoTexto(mensagem_, 380, rolagem_);
+    if (!form.Label2.Caption.empty())
+        ajustaAoTexto(item_, mensagem_->width());
     adjustSize();
 }
 

@@ -7,6 +7,7 @@
 #include <QDialog>
 
 class QLabel;
+class QScrollArea;
 class QPushButton;
 
 namespace pilarix::ui {
@@ -15,10 +16,12 @@ class ErrorDialog : public QDialog {
     Q_OBJECT
 public:
     explicit ErrorDialog(QWidget* parent = nullptr);
+    // Shows the message whole, the dialog sized to it.
     void preenche(const Form2Model& form);
 
 private:
     QLabel* mensagem_;
+    QScrollArea* rolagem_;
     QLabel* item_;
     QPushButton* continuar_;
 };

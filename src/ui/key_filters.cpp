@@ -1,5 +1,7 @@
 #include "ui/key_filters.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QEvent>
 #include <QInputMethodEvent>
@@ -9,26 +11,65 @@
 
 namespace pilarix::ui {
 
+namespace {
+bool decimal(Teclas regra) { return regra == Teclas::Decimal || regra == Teclas::DecimalComSinal; }
+} // namespace
+
 bool teclaAceita(Teclas regra, QChar c)
 {
     const bool digito = c >= QLatin1Char('0') && c <= QLatin1Char('9');
     const bool apaga = c == QLatin1Char('\b');
+    const bool ponto = c == QLatin1Char('.') || c == QLatin1Char(',');
     switch (regra) {
     case Teclas::Inteiro:
         return digito || apaga;
     case Teclas::Decimal:
-    case Teclas::Bitola:
-        return digito || apaga || c == QLatin1Char('.');
+        return digito || apaga || ponto;
     case Teclas::DecimalComSinal:
-        return digito || apaga || c == QLatin1Char('.') || c == QLatin1Char('-');
+        return digito || apaga || ponto || c == QLatin1Char('-');
+    case Teclas::Bitola:
     case Teclas::Nenhuma:
         return false;
     }
     return false;
 }
 
-KeyFilter::KeyFilter(Teclas regra, std::function<void()> beep, QObject* parent)
-    : QObject(parent), regra_(regra), beep_(std::move(beep))
+QString oQueAceita(Teclas regra)
+{
+    switch (regra) {
+    case Teclas::Inteiro:
+        return QStringLiteral("só algarismos");
+    case Teclas::Decimal:
+        return QStringLiteral("algarismos e um ponto decimal (a vírgula vale como ponto)");
+    case Teclas::DecimalComSinal:
+        return QStringLiteral("algarismos, um ponto decimal (a vírgula vale como ponto) e o sinal de menos no início");
+    case Teclas::Bitola:
+        return QStringLiteral("não se digita; com \"Automático\" desmarcado, um clique fixa a bitola");
+    case Teclas::Nenhuma:
+        break;
+    }
+    return QStringLiteral("não se digita");
+}
+
+Insercao insercao(Teclas regra, const QString& texto, int inicio, int fim, QString inserido, bool colado)
+{
+    if (colado)
+        inserido = inserido.trimmed();
+    if (decimal(regra))
+        inserido.replace(QLatin1Char(','), QLatin1Char('.'));
+    for (const QChar c : inserido)
+        if (!teclaAceita(regra, c))
+            return {{}, oQueAceita(regra)};
+    const QString resultado = texto.left(inicio) + inserido + texto.mid(fim);
+    if (resultado.count(QLatin1Char('.')) > 1)
+        return {{}, QStringLiteral("um só ponto decimal")};
+    if (resultado.lastIndexOf(QLatin1Char('-')) > 0)
+        return {{}, QStringLiteral("o sinal de menos só no início")};
+    return {inserido, {}};
+}
+
+KeyFilter::KeyFilter(Teclas regra, Recusa recusa, QObject* parent)
+    : QObject(parent), regra_(regra), recusa_(std::move(recusa))
 {
 }
 
@@ -38,45 +79,67 @@ void KeyFilter::instala(QWidget* w)
     w->setAcceptDrops(false);
     if (auto* edit = qobject_cast<QLineEdit*>(w)) {
         edit->setDragEnabled(false);
-        // The context menu would paste past the filter; the result boxes are read
-        // only and keep theirs for copying.
+        // The context menu would paste past the filter; the read-only boxes keep
+        // theirs for copying.
         if (!edit->isReadOnly())
             edit->setContextMenuPolicy(Qt::NoContextMenu);
     }
 }
 
-bool KeyFilter::rejeita()
+bool KeyFilter::recusa(QObject* watched, const QString& motivo)
 {
-    if (regra_ == Teclas::Bitola && beep_)
-        beep_();
+    if (recusa_)
+        recusa_(qobject_cast<QWidget*>(watched), motivo);
+    return true;
+}
+
+// The box takes the text itself where it is what was typed; a comma becomes the
+// point, and a paste goes in whole, over the selection.
+bool KeyFilter::insere(QObject* watched, const QString& inserido, bool colado)
+{
+    auto* edit = qobject_cast<QLineEdit*>(watched);
+    if (!edit)
+        return inserido.isEmpty() ? false : recusa(watched, oQueAceita(regra_));
+    if (edit->isReadOnly())
+        return recusa(watched, oQueAceita(regra_));
+    const int inicio = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
+    const int fim = edit->hasSelectedText() ? edit->selectionEnd() : inicio;
+    const Insercao r = insercao(regra_, edit->text(), inicio, fim, inserido, colado);
+    if (!r.motivo.isEmpty())
+        return recusa(watched, r.motivo);
+    if (!colado && r.texto == inserido)
+        return false;
+    edit->insert(r.texto);
     return true;
 }
 
 bool KeyFilter::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::ShortcutOverride) {
+        // Undo and redo are the window's, over every box, not each box's own.
+        auto* k = static_cast<QKeyEvent*>(event);
+        if (k->matches(QKeySequence::Undo) || k->matches(QKeySequence::Redo)) {
+            event->ignore();
+            return true;
+        }
+    }
     if (event->type() == QEvent::KeyPress) {
         auto* k = static_cast<QKeyEvent*>(event);
-        // Pasting and cutting would bring in or take out text without a keystroke
-        // of its own; the filter allows neither, like the program it mirrors.
-        if (k->matches(QKeySequence::Paste) || k->matches(QKeySequence::Cut))
-            return rejeita();
+        if (k->matches(QKeySequence::Paste))
+            return insere(watched, QApplication::clipboard()->text(), true);
         if (k->key() == Qt::Key_Backspace)
-            return teclaAceita(regra_, QLatin1Char('\b')) ? false : rejeita();
+            return teclaAceita(regra_, QLatin1Char('\b')) ? false : recusa(watched, oQueAceita(regra_));
         const QString texto = k->text();
         // Keys that type nothing (arrows, Home, Delete, Tab, Enter, shortcuts with
         // Ctrl) move or act; only typed characters are filtered.
-        if (texto.isEmpty() || !texto.at(0).isPrint())
+        if (texto.isEmpty() || !texto.at(0).isPrint() || (k->modifiers() & Qt::ControlModifier))
             return false;
-        for (const QChar c : texto)
-            if (!teclaAceita(regra_, c))
-                return rejeita();
-        return false;
+        return insere(watched, texto, false);
     }
     if (event->type() == QEvent::InputMethod) {
         auto* im = static_cast<QInputMethodEvent*>(event);
-        for (const QChar c : im->commitString())
-            if (!teclaAceita(regra_, c))
-                return rejeita();
+        if (!im->commitString().isEmpty())
+            return insere(watched, im->commitString(), false);
     }
     return QObject::eventFilter(watched, event);
 }

@@ -1,10 +1,12 @@
 #pragma once
-// Keystroke filters of the main window's boxes and lists. A rejected key is
-// discarded before the box sees it, so only numbers in the program's own reading
-// (digits and "." as the only decimal point) can be typed, and the result boxes and
-// the lists take no typing at all.
+// Keystroke filters of the window's boxes and lists. Numbers are typed as in
+// Brazil: the comma is taken as the decimal point and written as the point the
+// program reads (files and the command line keep the point). A key a box refuses
+// is discarded before the box sees it, beeps, and is told with what the box
+// accepts; a paste goes through the same rule as typing.
 
 #include <QObject>
+#include <QString>
 
 #include <functional>
 
@@ -13,21 +15,35 @@ class QWidget;
 namespace pilarix::ui {
 
 enum class Teclas {
-    Inteiro,         // digits and Backspace: sides, bar counts, steps
-    Decimal,         // digits, Backspace and "."
-    DecimalComSinal, // digits, Backspace, "." and "-": the axial force, which may be a tension
-    Bitola,          // the bar list: as Decimal, and a rejected key sounds the beep
-    Nenhuma,         // result boxes and lists: every key that types is discarded
+    Inteiro,         // digits: sides, bar counts, steps
+    Decimal,         // digits and one decimal point (a comma counts as one)
+    DecimalComSinal, // as Decimal, and a minus sign in front: the axial force, which may be a tension
+    Bitola,          // the bar list: chosen by a click, never typed
+    Nenhuma,         // result boxes and lists: nothing is typed
 };
 
-// Whether a typed character is accepted by a group of boxes. Backspace is the
-// character '\b'.
+// Whether a typed character belongs to a group of boxes. Backspace is the
+// character '\b'; the comma belongs wherever the point does.
 bool teclaAceita(Teclas regra, QChar c);
+
+// What a group of boxes accepts, as the status bar says it ("só algarismos").
+QString oQueAceita(Teclas regra);
+
+// Typing or pasting `inserido` over the characters [inicio, fim) of `texto`: the
+// text to insert (the comma turned into a point, a paste trimmed), or, when the box
+// refuses it, why (`motivo` not empty).
+struct Insercao {
+    QString texto;
+    QString motivo;
+};
+Insercao insercao(Teclas regra, const QString& texto, int inicio, int fim, QString inserido, bool colado);
 
 class KeyFilter : public QObject {
     Q_OBJECT
 public:
-    KeyFilter(Teclas regra, std::function<void()> beep, QObject* parent = nullptr);
+    // `recusa` is told the box and the reason of every key or paste refused.
+    using Recusa = std::function<void(QWidget*, const QString& motivo)>;
+    KeyFilter(Teclas regra, Recusa recusa, QObject* parent = nullptr);
 
     // Installs the filter on a line edit or a list and closes the ways round it
     // (dropping text, the paste of the context menu).
@@ -39,10 +55,11 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    bool rejeita();
+    bool recusa(QObject* watched, const QString& motivo);
+    bool insere(QObject* watched, const QString& inserido, bool colado);
 
     Teclas regra_;
-    std::function<void()> beep_;
+    Recusa recusa_;
 };
 
 } // namespace pilarix::ui

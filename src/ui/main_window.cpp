@@ -1,31 +1,47 @@
 #include "ui/main_window.h"
 
 #include "base/number_text.h"
+#include "engine/catalogue.h"
+#include "render/drawing_export.h"
 #include "ui/about_dialog.h"
 #include "ui/d_estimate_dialog.h"
+#include "ui/help_dialog.h"
 #include "ui/interaction_dialog.h"
 #include "ui/other_values_dialog.h"
 #include "ui/qt_dialogs.h"
-#include "base/number_text.h"
-#include "render/drawing_export.h"
-#include "window/units.h"
 #include "ui/section_canvas.h"
 #include "ui/solutions_dialog.h"
+#include "window/units.h"
+#include "window/window_input.h"
 
 #include <QAction>
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QComboBox>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QSettings>
 #include <QShortcutEvent>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTextBrowser>
+#include <QUndoCommand>
+#include <QUndoStack>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace pilarix::ui {
 
@@ -44,13 +60,26 @@ QColor corDoModelo(const Color& c)
 
 bool escura(const QColor& c) { return 0.299 * c.red() + 0.587 * c.green() + 0.114 * c.blue() < 110; }
 
-void pintaCaixa(QLineEdit* e, const TextBox& m)
+// A result out of date keeps its figures, faded towards the window's grey.
+QColor esmaecida(const QColor& c)
 {
-    const QColor fundo = corDoModelo(m.BackColor);
+    const QColor cinza(214, 214, 214);
+    return QColor((c.red() + 2 * cinza.red()) / 3, (c.green() + 2 * cinza.green()) / 3,
+                  (c.blue() + 2 * cinza.blue()) / 3);
+}
+const QColor kLetraDesatualizada(140, 140, 140);
+
+void pintaCaixa(QLineEdit* e, const TextBox& m, bool desatualizada)
+{
+    QColor fundo = corDoModelo(m.BackColor);
     QColor letra = corDoModelo(m.ForeColor);
     // The highlighted bar is dark blue: its number must stay readable on it.
     if (escura(fundo) && escura(letra))
         letra = Qt::white;
+    if (desatualizada) {
+        fundo = esmaecida(fundo);
+        letra = kLetraDesatualizada;
+    }
     QPalette pal = e->palette();
     if (pal.color(QPalette::Active, QPalette::Base) == fundo && pal.color(QPalette::Active, QPalette::Text) == letra)
         return;
@@ -75,6 +104,10 @@ QGroupBox* quadro(const char* titulo, const char* nome)
     q->setObjectName(QString::fromUtf8(nome));
     return q;
 }
+
+QString semAtalho(const std::string& s) { return qs(s).remove(QLatin1Char('&')); }
+
+QString html(const std::string& s) { return qs(s).toHtmlEscaped(); }
 
 // The menu "&Arquivo" and the stirrup option "Definir m&anualmente" share Alt+A.
 // A shared access key only moves the focus between its owners; the menu is the one
@@ -102,6 +135,59 @@ private:
     QMenuBar* barra_;
 };
 
+// One edit of the input, by the names of the inputs it changed: what they held
+// before and after. Typing into one box is one edit until another input changes.
+class EdicaoDaEntrada : public QUndoCommand {
+public:
+    struct Mudanca {
+        std::string nome, antes, depois;
+    };
+    EdicaoDaEntrada(std::vector<Mudanca> mudancas, bool digitacao, const QString& texto,
+                    std::function<void(const std::vector<std::pair<std::string, std::string>>&)> poe)
+        : QUndoCommand(texto), mudancas_(std::move(mudancas)), digitacao_(digitacao), poe_(std::move(poe))
+    {
+    }
+
+    int id() const override { return digitacao_ ? 1 : -1; }
+    bool mergeWith(const QUndoCommand* outro) override
+    {
+        const auto* o = static_cast<const EdicaoDaEntrada*>(outro);
+        if (mudancas_.size() != 1 || o->mudancas_.size() != 1 || mudancas_[0].nome != o->mudancas_[0].nome)
+            return false;
+        mudancas_[0].depois = o->mudancas_[0].depois;
+        return true;
+    }
+    void undo() override { aplica(false); }
+    void redo() override
+    {
+        // The edit is already in the window when it is pushed.
+        if (primeira_) {
+            primeira_ = false;
+            return;
+        }
+        aplica(true);
+    }
+
+private:
+    void aplica(bool depois)
+    {
+        std::vector<std::pair<std::string, std::string>> valores;
+        for (const auto& m : mudancas_)
+            valores.emplace_back(m.nome, depois ? m.depois : m.antes);
+        poe_(valores);
+    }
+
+    std::vector<Mudanca> mudancas_;
+    bool digitacao_;
+    bool primeira_ = true;
+    std::function<void(const std::vector<std::pair<std::string, std::string>>&)> poe_;
+};
+
+const char* kOrganizacao = "Pilarix";
+const char* kAplicacao = "Pilarix Normal";
+const char* kChaveRecentes = "arquivosRecentes";
+constexpr int kMaximoRecentes = 8;
+
 } // namespace
 
 MainWindow::MainWindow(DialogPort* dialogs, QWidget* parent) : QMainWindow(parent)
@@ -113,62 +199,101 @@ MainWindow::MainWindow(DialogPort* dialogs, QWidget* parent) : QMainWindow(paren
     dialogos_ = dialogs;
     program_ = std::make_unique<Program>(*dialogos_);
 
-    auto beep = [this] { dialogos_->beep(); };
-    filtroInteiro_ = new KeyFilter(Teclas::Inteiro, nullptr, this);
-    filtroDecimal_ = new KeyFilter(Teclas::Decimal, nullptr, this);
-    filtroComSinal_ = new KeyFilter(Teclas::DecimalComSinal, nullptr, this);
-    filtroBitola_ = new KeyFilter(Teclas::Bitola, beep, this);
-    filtroNenhum_ = new KeyFilter(Teclas::Nenhuma, nullptr, this);
+    auto recusa = [this](QWidget* w, const QString& motivo) { recusouTecla(w, motivo); };
+    filtroInteiro_ = new KeyFilter(Teclas::Inteiro, recusa, this);
+    filtroDecimal_ = new KeyFilter(Teclas::Decimal, recusa, this);
+    filtroComSinal_ = new KeyFilter(Teclas::DecimalComSinal, recusa, this);
+    filtroBitola_ = new KeyFilter(Teclas::Bitola, recusa, this);
+    filtroNenhum_ = new KeyFilter(Teclas::Nenhuma, recusa, this);
+
+    pilhaDesfazer_ = new QUndoStack(this);
 
     setObjectName(QStringLiteral("Form1"));
-    setWindowTitle(qs(program_->Form1.Caption));
     montaMenus();
+
+    // The frames of input scroll when the screen is short, and stand in one column
+    // when it is narrow; the drawing and the results take the room that is left.
+    auto* entradas = new QWidget;
+    colunasDeEntrada_ = new QBoxLayout(QBoxLayout::LeftToRight, entradas);
+    colunasDeEntrada_->setContentsMargins(0, 0, 0, 0);
+    colunasDeEntrada_->setSpacing(8);
+    colunaEntradas_ = montaEntradas();
+    colunaOpcoes_ = montaOpcoes();
+    colunasDeEntrada_->addWidget(colunaEntradas_, 0, Qt::AlignTop);
+    colunasDeEntrada_->addWidget(colunaOpcoes_, 0, Qt::AlignTop);
+    rolagemEntradas_ = new QScrollArea;
+    rolagemEntradas_->setObjectName(QStringLiteral("rolagemEntradas"));
+    rolagemEntradas_->setWidget(entradas);
+    rolagemEntradas_->setWidgetResizable(true);
+    rolagemEntradas_->setFrameShape(QFrame::NoFrame);
+    rolagemEntradas_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
+    auto* centroDesenho = new QSplitter(Qt::Vertical);
+    centroDesenho->setObjectName(QStringLiteral("divisaoDesenho"));
+    centroDesenho->setChildrenCollapsible(false);
+    centroDesenho->addWidget(montaDesenho());
+    centroDesenho->addWidget(montaMensagens());
+    centroDesenho->setStretchFactor(0, 3);
+    centroDesenho->setStretchFactor(1, 1);
+    centroDesenho->setSizes({3000, 1000});
+
+    rolagemResultados_ = new QScrollArea;
+    rolagemResultados_->setObjectName(QStringLiteral("rolagemResultados"));
+    rolagemResultados_->setWidget(montaResultados());
+    rolagemResultados_->setWidgetResizable(true);
+    rolagemResultados_->setFrameShape(QFrame::NoFrame);
+    rolagemResultados_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    rolagemResultados_->setMinimumWidth(rolagemResultados_->widget()->minimumSizeHint().width()
+                                        + rolagemResultados_->verticalScrollBar()->sizeHint().width());
+    rolagemResultados_->setMaximumWidth(380);
 
     auto* centro = new QWidget;
     auto* colunas = new QHBoxLayout;
     colunas->setSpacing(8);
-    colunas->addWidget(montaEntradas());
-    colunas->addWidget(montaOpcoes());
-    colunas->addWidget(montaDesenho(), 1);
-    colunas->addWidget(montaResultados());
+    colunas->addWidget(rolagemEntradas_);
+    colunas->addWidget(centroDesenho, 3);
+    colunas->addWidget(rolagemResultados_, 1);
     auto* raiz = new QVBoxLayout(centro);
-    raiz->setContentsMargins(8, 6, 8, 8);
+    raiz->setContentsMargins(8, 6, 8, 4);
     raiz->addLayout(colunas, 1);
     raiz->addWidget(montaBotoes());
     setCentralWidget(centro);
 
-    // Tab follows the reading order of the frames, column by column.
-    const char* ordem[] = {
-        "Text1",   "Command13", "Command16", "Text31",     "Text2",      "Command14",  "Command15",  "Text32",
-        "Text23",  "Text4",     "Command3",  "Command2",   "Text5",      "Command5",   "Command4",   "Text3",
-        "Command17", "Check3",  "Text16",    "Combo4",     "Text17",     "Combo5",     "Text18",     "Combo6",
-        "Text20",  "Combo7",    "Text21",    "Text22",     "Combo1",     "Option1",    "Option2",    "Combo2",
-        "Check1",  "Text7(0)",  "Text7(1)",  "Text7(2)",   "Text7(3)",   "Text7(4)",   "Text7(5)",   "Text7(6)",
-        "Text7(7)", "Check2",   "Option3",   "Combo3",     "Option5",    "Option6",    "Check5",     "Option7(1)",
-        "Option7(0)", "Text6",  "Command1",  "Command8",   "Command10",  "Command9",   "Command11",  "Command7",
-        "Command6",
-    };
-    QWidget* anterior = nullptr;
-    for (const char* nome : ordem) {
-        auto* w = centro->findChild<QWidget*>(QString::fromUtf8(nome));
-        if (w && anterior)
-            setTabOrder(anterior, w);
-        if (w)
-            anterior = w;
-    }
+    avisoDesatualizado_ = new QLabel(QStringLiteral("Resultados desatualizados: a entrada mudou. Calcule de novo."));
+    avisoDesatualizado_->setObjectName(QStringLiteral("lblDesatualizado"));
+    avisoDesatualizado_->setStyleSheet(QStringLiteral("color: rgb(170, 60, 0); font-weight: bold;"));
+    avisoDesatualizado_->setVisible(false);
+    statusBar()->addPermanentWidget(avisoDesatualizado_);
+    statusBar()->setObjectName(QStringLiteral("barraDeEstado"));
+
+    montaOrdemDeTab();
+    montaDicas();
 
     auto* prioridade = new PrioridadeDosMenus(menuBar(), this);
     for (auto* b : centro->findChildren<QAbstractButton*>())
         b->installEventFilter(prioridade);
 
     atualiza();
+    copiaParaModelo();
+    mostraMensagens();
+    valoresAtuais_ = valoresDaEntrada(*program_, Alcance::Projeto);
+    fotoSalva_ = fotoDaEntrada(*program_, Alcance::Projeto);
+    dispoeColunas();
+    atualizaTitulo();
+
+    // The first size fits the screen; the frames scroll where it is short.
+    if (const QScreen* tela = screen()) {
+        const QRect livre = tela->availableGeometry();
+        const QSize desejado = sizeHint().expandedTo(QSize(1200, 700));
+        resize(std::min(desejado.width(), livre.width() - 16), std::min(desejado.height(), livre.height() - 40));
+    }
 }
 
 MainWindow::~MainWindow() = default;
 
 // ---- building the window ----
 
-QLineEdit* MainWindow::caixa(TextBox& m, const QString& nome, Teclas regra, int largura)
+QLineEdit* MainWindow::caixa(TextBox& m, const QString& nome, Teclas regra, int largura, const QString& rotuloCaixa)
 {
     auto* e = new QLineEdit;
     e->setObjectName(nome);
@@ -179,8 +304,16 @@ QLineEdit* MainWindow::caixa(TextBox& m, const QString& nome, Teclas regra, int 
                    : regra == Teclas::DecimalComSinal ? filtroComSinal_
                    : regra == Teclas::Bitola          ? filtroBitola_
                                                       : filtroNenhum_;
+    if (regra == Teclas::Bitola)
+        e->setReadOnly(true);
     f->instala(e);
     caixas_.emplace_back(&m, e);
+    rotulos_[e] = rotuloCaixa;
+    if (!e->isReadOnly()) {
+        connect(e, &QLineEdit::textChanged, this, [this] { entradaEditada(true); });
+        // Enter in a box calculates.
+        connect(e, &QLineEdit::returnPressed, this, [this] { calcula(); });
+    }
     return e;
 }
 
@@ -195,10 +328,11 @@ QLineEdit* MainWindow::resultado(TextBox& m, const QString& nome, int largura)
         e->setFixedWidth(largura);
     filtroNenhum_->instala(e);
     caixas_.emplace_back(&m, e);
+    rotulos_[e] = QStringLiteral("Resultado");
     return e;
 }
 
-QComboBox* MainWindow::lista(ComboBox& m, const QString& nome)
+QComboBox* MainWindow::lista(ComboBox& m, const QString& nome, const QString& rotuloLista)
 {
     auto* c = new QComboBox;
     c->setObjectName(nome);
@@ -207,6 +341,8 @@ QComboBox* MainWindow::lista(ComboBox& m, const QString& nome)
         c->addItem(qs(s));
     filtroNenhum_->instala(c);
     listas_.emplace_back(&m, c);
+    rotulos_[c] = rotuloLista;
+    connect(c, &QComboBox::currentIndexChanged, this, [this] { entradaEditada(false); });
     return c;
 }
 
@@ -215,6 +351,7 @@ QCheckBox* MainWindow::marca(CheckBox& m, const QString& nome, const QString& te
     auto* c = new QCheckBox(texto);
     c->setObjectName(nome);
     marcas_.emplace_back(&m, c);
+    connect(c, &QCheckBox::stateChanged, this, [this] { entradaEditada(false); });
     return c;
 }
 
@@ -223,6 +360,7 @@ QRadioButton* MainWindow::opcao(OptionButton& m, const QString& nome)
     auto* r = new QRadioButton(qs(m.Caption));
     r->setObjectName(nome);
     opcoes_.emplace_back(&m, r);
+    connect(r, &QRadioButton::toggled, this, [this] { entradaEditada(false); });
     return r;
 }
 
@@ -236,11 +374,19 @@ QPushButton* MainWindow::botao(CommandButton& m, const QString& nome, std::funct
     return b;
 }
 
-QPushButton* MainWindow::passo(CommandButton& m, const QString& nome, void (Program::*handler)())
+QPushButton* MainWindow::passo(CommandButton& m, const QString& nome, void (Program::*handler)(),
+                               const TextBox* passoCaixa)
 {
-    auto* b = botao(m, nome, [this, handler] { executa([this, handler] { (program_.get()->*handler)(); }); });
+    // A step changes its box as the user's edit, then calculates. An empty step
+    // moves nothing, as the program always did; the status bar says so.
+    auto* b = botao(m, nome, [this, handler, passoCaixa] {
+        if (calculaConferido([this, handler] { (program_.get()->*handler)(); }, Edicao::Usuario) && passoCaixa
+            && passoCaixa->Text.find_first_not_of(' ') == std::string::npos)
+            mostraNaBarra(QStringLiteral("O passo ao lado está vazio: o lado não mudou."));
+    });
     b->setFixedWidth(26);
-    b->setFocusPolicy(Qt::TabFocus);
+    // Tab goes from box to box; the buttons are for the mouse.
+    b->setFocusPolicy(Qt::ClickFocus);
     return b;
 }
 
@@ -256,19 +402,47 @@ void MainWindow::montaMenus()
 {
     auto* arquivo = menuBar()->addMenu(QStringLiteral("&Arquivo"));
     arquivo->setObjectName(QStringLiteral("mnuArquivo"));
-    arquivo->addAction(acao(QStringLiteral("&Abrir arquivo..."), QStringLiteral("mnuItemload"),
-                            [this] { this->arquivo(&Program::mnuItemload_Click); }));
+    auto* novo = acao(QStringLiteral("&Novo"), QStringLiteral("mnuItemNovo"), [this] { this->novo(); });
+    novo->setShortcut(QKeySequence::New);
+    novo->setStatusTip(QStringLiteral("Começa um projeto novo com os valores padrão"));
+    arquivo->addAction(novo);
+    auto* abrir = acao(QStringLiteral("&Abrir arquivo..."), QStringLiteral("mnuItemload"), [this] { abre(); });
+    abrir->setShortcut(QKeySequence::Open);
+    arquivo->addAction(abrir);
+    menuRecentes_ = arquivo->addMenu(QStringLiteral("Arquivos recen&tes"));
+    menuRecentes_->setObjectName(QStringLiteral("mnuRecentes"));
     arquivo->addAction(acao(QStringLiteral("Carre&gar valores padrões"), QStringLiteral("mnuItemCarregpadr"),
-                            [this] { this->arquivo(&Program::mnuItemCarregpadr_Click); }));
-    arquivo->addAction(acao(QStringLiteral("&Salvar como..."), QStringLiteral("mnuItemSave"),
-                            [this] { this->arquivo(&Program::mnuItemSave_Click); }));
+                            [this] { valoresPadrao(); }));
+    auto* salvar = acao(QStringLiteral("Sa&lvar"), QStringLiteral("mnuItemSalvar"), [this] { salva(); });
+    salvar->setShortcut(QKeySequence::Save);
+    arquivo->addAction(salvar);
+    auto* salvarComo =
+        acao(QStringLiteral("&Salvar como..."), QStringLiteral("mnuItemSave"), [this] { salvaComo(); });
+    salvarComo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    arquivo->addAction(salvarComo);
     arquivo->addAction(acao(QStringLiteral("Salvar valores como &padrão"), QStringLiteral("mnuItemSaveDefault"),
                             [this] { this->arquivo(&Program::mnuItemSaveDefault_Click); }));
     arquivo->addAction(
         acao(QStringLiteral("&Exportar desenho..."), QStringLiteral("mnuItemExportar"), [this] { exportaDesenho(); }));
+    auto* imprimir = acao(QStringLiteral("&Imprimir memorial..."), QStringLiteral("mnuItemMemorial"),
+                          [this] { imprimeMemorial(); });
+    imprimir->setShortcut(QKeySequence::Print);
+    arquivo->addAction(imprimir);
     arquivo->addSeparator();
     arquivo->addAction(acao(QStringLiteral("S&obre"), QStringLiteral("mnuItemSobre"), [this] { abreSobre(); }));
     arquivo->addAction(acao(QStringLiteral("Sai&r"), QStringLiteral("mnuItemSair"), [this] { close(); }));
+    montaRecentes();
+
+    auto* editar = menuBar()->addMenu(QStringLiteral("&Editar"));
+    editar->setObjectName(QStringLiteral("mnuEditar"));
+    auto* desfazer = pilhaDesfazer_->createUndoAction(this, QStringLiteral("&Desfazer"));
+    desfazer->setObjectName(QStringLiteral("mnuItemDesfazer"));
+    desfazer->setShortcut(QKeySequence::Undo);
+    auto* refazer = pilhaDesfazer_->createRedoAction(this, QStringLiteral("&Refazer"));
+    refazer->setObjectName(QStringLiteral("mnuItemRefazer"));
+    refazer->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
+    editar->addAction(desfazer);
+    editar->addAction(refazer);
 
     auto* valores = menuBar()->addMenu(QStringLiteral("&Valores"));
     valores->setObjectName(QStringLiteral("mnuValores"));
@@ -276,6 +450,13 @@ void MainWindow::montaMenus()
         acao(QStringLiteral("Outros"), QStringLiteral("mnuItemPrecisao"), [this] { abreOutrosValores(); }));
     valores->addAction(acao(QStringLiteral("&Diagrama de interação"), QStringLiteral("mnuItemDiagrama"),
                             [this] { abreDiagrama(); }));
+
+    auto* ajuda = menuBar()->addMenu(QStringLiteral("Aj&uda"));
+    ajuda->setObjectName(QStringLiteral("mnuAjuda"));
+    auto* itemAjuda =
+        acao(QStringLiteral("&Ajuda do Pilarix"), QStringLiteral("mnuItemAjuda"), [this] { abreAjuda(); });
+    itemAjuda->setShortcut(QKeySequence::HelpContents);
+    ajuda->addAction(itemAjuda);
 }
 
 QWidget* MainWindow::montaEntradas()
@@ -289,22 +470,24 @@ QWidget* MainWindow::montaEntradas()
     auto* dim = quadro("Dimensões", "Frame1");
     auto* g = new QGridLayout(dim);
     g->setHorizontalSpacing(4);
-    auto* t1 = caixa(f.Text1, QStringLiteral("Text1"), Teclas::Inteiro, 56);
-    auto* t2 = caixa(f.Text2, QStringLiteral("Text2"), Teclas::Inteiro, 56);
-    auto* t23 = caixa(f.Text23, QStringLiteral("Text23"), Teclas::Decimal, 56);
+    auto* t1 = caixa(f.Text1, QStringLiteral("Text1"), Teclas::Inteiro, 56, QStringLiteral("Base (cm)"));
+    auto* t2 = caixa(f.Text2, QStringLiteral("Text2"), Teclas::Inteiro, 56, QStringLiteral("Altura (cm)"));
+    auto* t23 = caixa(f.Text23, QStringLiteral("Text23"), Teclas::Decimal, 56, QStringLiteral("Comprimento (cm)"));
     auto* passoRotulo = rotulo(QStringLiteral("passo"));
     passoRotulo->setAlignment(Qt::AlignCenter);
     g->addWidget(passoRotulo, 0, 5);
     g->addWidget(rotulo(QStringLiteral("Base (cm)"), t1), 1, 0);
     g->addWidget(t1, 1, 1);
-    g->addWidget(passo(f.Command13, QStringLiteral("Command13"), &Program::Command13_Click), 1, 2);
-    g->addWidget(passo(f.Command16, QStringLiteral("Command16"), &Program::Command16_Click), 1, 3);
-    g->addWidget(caixa(f.Text31, QStringLiteral("Text31"), Teclas::Inteiro, 40), 1, 5);
+    g->addWidget(passo(f.Command13, QStringLiteral("Command13"), &Program::Command13_Click, &f.Text31), 1, 2);
+    g->addWidget(passo(f.Command16, QStringLiteral("Command16"), &Program::Command16_Click, &f.Text31), 1, 3);
+    g->addWidget(caixa(f.Text31, QStringLiteral("Text31"), Teclas::Inteiro, 40, QStringLiteral("Passo da base")), 1,
+                 5);
     g->addWidget(rotulo(QStringLiteral("Altura (cm)"), t2), 2, 0);
     g->addWidget(t2, 2, 1);
-    g->addWidget(passo(f.Command14, QStringLiteral("Command14"), &Program::Command14_Click), 2, 2);
-    g->addWidget(passo(f.Command15, QStringLiteral("Command15"), &Program::Command15_Click), 2, 3);
-    g->addWidget(caixa(f.Text32, QStringLiteral("Text32"), Teclas::Inteiro, 40), 2, 5);
+    g->addWidget(passo(f.Command14, QStringLiteral("Command14"), &Program::Command14_Click, &f.Text32), 2, 2);
+    g->addWidget(passo(f.Command15, QStringLiteral("Command15"), &Program::Command15_Click, &f.Text32), 2, 3);
+    g->addWidget(caixa(f.Text32, QStringLiteral("Text32"), Teclas::Inteiro, 40, QStringLiteral("Passo da altura")),
+                 2, 5);
     g->addWidget(rotulo(QStringLiteral("Comprimento (cm)"), t23), 3, 0);
     g->addWidget(t23, 3, 1);
     g->setColumnStretch(4, 1);
@@ -314,9 +497,10 @@ QWidget* MainWindow::montaEntradas()
     auto* arr = quadro("Arranjo", "Frame2");
     auto* ga = new QGridLayout(arr);
     ga->setHorizontalSpacing(4);
-    auto* t4 = caixa(f.Text4, QStringLiteral("Text4"), Teclas::Inteiro, 56);
-    auto* t5 = caixa(f.Text5, QStringLiteral("Text5"), Teclas::Inteiro, 56);
-    auto* t3 = caixa(f.Text3, QStringLiteral("Text3"), Teclas::Decimal, 72);
+    auto* t4 = caixa(f.Text4, QStringLiteral("Text4"), Teclas::Inteiro, 56, QStringLiteral("Barras nas faces da base"));
+    auto* t5 =
+        caixa(f.Text5, QStringLiteral("Text5"), Teclas::Inteiro, 56, QStringLiteral("Barras nas faces da altura"));
+    auto* t3 = caixa(f.Text3, QStringLiteral("Text3"), Teclas::Decimal, 72, QStringLiteral("d' (cm)"));
     ga->addWidget(rotulo(QStringLiteral("n   de barras nas faces:")), 0, 0, 1, 5);
     ga->addWidget(rotulo(QStringLiteral("Base"), t4), 1, 0);
     ga->addWidget(t4, 1, 1);
@@ -356,21 +540,23 @@ QWidget* MainWindow::montaEntradas()
     };
     int linha = 0;
     for (const auto& l : linhas) {
-        auto* e = caixa(*l.caixa, QString::fromUtf8(l.nomeCaixa), l.regra, 72);
-        ge->addWidget(rotulo(QString::fromUtf8(l.rotulo), e), linha, 0);
+        const QString nome = QString::fromUtf8(l.rotulo);
+        auto* e = caixa(*l.caixa, QString::fromUtf8(l.nomeCaixa), l.regra, 72, nome);
+        ge->addWidget(rotulo(nome, e), linha, 0);
         ge->addWidget(e, linha, 1);
-        ge->addWidget(lista(*l.lista, QString::fromUtf8(l.nomeLista)), linha, 2);
+        ge->addWidget(lista(*l.lista, QString::fromUtf8(l.nomeLista), QStringLiteral("Unidade de ") + nome), linha,
+                      2);
         ++linha;
     }
-    auto* t21 = caixa(f.Text21, QStringLiteral("Text21"), Teclas::Decimal, 72);
-    auto* t22 = caixa(f.Text22, QStringLiteral("Text22"), Teclas::Decimal, 72);
+    auto* t21 = caixa(f.Text21, QStringLiteral("Text21"), Teclas::Decimal, 72, QStringLiteral("γc"));
+    auto* t22 = caixa(f.Text22, QStringLiteral("Text22"), Teclas::Decimal, 72, QStringLiteral("γs"));
     ge->addWidget(rotulo(QStringLiteral("γc"), t21), linha, 0);
     ge->addWidget(t21, linha, 1);
     ge->addWidget(rotulo(QStringLiteral("coef. do concreto")), linha++, 2);
     ge->addWidget(rotulo(QStringLiteral("γs"), t22), linha, 0);
     ge->addWidget(t22, linha, 1);
     ge->addWidget(rotulo(QStringLiteral("coef. do aço")), linha++, 2);
-    auto* c1 = lista(f.Combo1, QStringLiteral("Combo1"));
+    auto* c1 = lista(f.Combo1, QStringLiteral("Combo1"), QStringLiteral("Aço"));
     ge->addWidget(rotulo(QStringLiteral("Aço"), c1), linha, 0);
     ge->addWidget(c1, linha, 1, 1, 2);
     ge->setColumnStretch(2, 1);
@@ -394,7 +580,7 @@ QWidget* MainWindow::montaOpcoes()
     grupos_.push_back({o1, o2});
     gc->addWidget(o1);
     gc->addWidget(o2);
-    auto* c2 = lista(f.Combo2, QStringLiteral("Combo2"));
+    auto* c2 = lista(f.Combo2, QStringLiteral("Combo2"), QStringLiteral("Classe de agressividade ambiental"));
     c2->setFixedWidth(64);
     auto* classe = rotulo(QStringLiteral("Classe de agressividade ambiental"), c2);
     classe->setWordWrap(true);
@@ -405,13 +591,20 @@ QWidget* MainWindow::montaOpcoes()
     gc->addWidget(marca(f.Check1, QStringLiteral("Check1"), QStringLiteral("Corrigir o cobrimento sem perguntar")));
     v->addWidget(cob);
 
-    // "Bitola (mm)": the eight catalogue bars, the chosen one highlighted.
+    // "Bitola (mm)": the eight catalogue bars, the one of the result highlighted;
+    // with "Automático" clear, the one clicked is fixed for the calculation.
     auto* bit = quadro("Bitola (mm)", "Frame5");
     auto* gb = new QGridLayout(bit);
     gb->setHorizontalSpacing(4);
     for (int i = 0; i < 8; ++i) {
-        auto* e = caixa(f.Text7[static_cast<std::size_t>(i)], QStringLiteral("Text7(%1)").arg(i), Teclas::Bitola, 48);
+        const auto k = static_cast<std::size_t>(i);
+        auto* e = caixa(f.Text7[k], QStringLiteral("Text7(%1)").arg(i), Teclas::Bitola, 48,
+                        QStringLiteral("Bitola %1 mm").arg(qs(f.Text7[k].Text)));
         e->setAlignment(Qt::AlignCenter);
+        e->setFocusPolicy(Qt::ClickFocus);
+        e->setCursor(Qt::PointingHandCursor);
+        e->installEventFilter(this);
+        bitolas_[k] = e;
         gb->addWidget(e, i / 4, i % 4);
     }
     gb->addWidget(marca(f.Check2, QStringLiteral("Check2"), qs(f.Check2.Caption)), 2, 0, 1, 4);
@@ -424,7 +617,7 @@ QWidget* MainWindow::montaOpcoes()
     auto* o6 = opcao(f.Option6, QStringLiteral("Option6"));
     grupos_.push_back({o3, o5, o6});
     ge->addWidget(o3, 0, 0);
-    ge->addWidget(lista(f.Combo3, QStringLiteral("Combo3")), 0, 1);
+    ge->addWidget(lista(f.Combo3, QStringLiteral("Combo3"), QStringLiteral("Estribo pré-definido")), 0, 1);
     ge->addWidget(o5, 1, 0, 1, 2);
     ge->addWidget(o6, 2, 0, 1, 2);
     ge->addWidget(marca(f.Check5, QStringLiteral("Check5"), qs(f.Check5.Caption)), 3, 0, 1, 2);
@@ -452,11 +645,10 @@ QWidget* MainWindow::montaDesenho()
     desenho_ = new SectionCanvas;
     desenho_->setObjectName(QStringLiteral("Picture1"));
     desenho_->setToolTip(QStringLiteral("Roda do mouse: zoom. Arrastar: mover. Duplo clique ou Ajustar: desenho inteiro."));
-    desenho_->setMinimumWidth(260);
+    desenho_->setMinimumSize(200, 160);
     v->addWidget(desenho_, 1);
     auto* linha = new QHBoxLayout;
-    auto* t6 = caixa(f.Text6, QStringLiteral("Text6"), Teclas::Decimal, 48);
-    t6->setToolTip(QStringLiteral("Escala do desenho exportado em SVG e PNG, em pixels por centímetro da seção"));
+    auto* t6 = caixa(f.Text6, QStringLiteral("Text6"), Teclas::Decimal, 48, QStringLiteral("Escala"));
     linha->addWidget(rotulo(QStringLiteral("Escala"), t6));
     linha->addWidget(t6);
     linha->addStretch();
@@ -467,6 +659,21 @@ QWidget* MainWindow::montaDesenho()
     connect(ajustar, &QPushButton::clicked, desenho_, &SectionCanvas::fit);
     linha->addWidget(ajustar);
     v->addLayout(linha);
+    return q;
+}
+
+QWidget* MainWindow::montaMensagens()
+{
+    auto* q = quadro("Mensagens", "FrameMensagens");
+    auto* v = new QVBoxLayout(q);
+    v->setContentsMargins(6, 4, 6, 6);
+    mensagens_ = new QTextBrowser;
+    mensagens_->setObjectName(QStringLiteral("Mensagens"));
+    mensagens_->setOpenLinks(false);
+    mensagens_->setMinimumHeight(60);
+    mensagens_->setToolTip(QStringLiteral("Cada mensagem e pergunta do último cálculo, com o item da norma e a "
+                                          "resposta dada"));
+    v->addWidget(mensagens_);
     return q;
 }
 
@@ -492,6 +699,7 @@ QWidget* MainWindow::montaResultados()
     }
     ga->addWidget(rotulo(QStringLiteral("Excesso")), 4, 0);
     ga->addWidget(resultado(f.Text15, QStringLiteral("Text15"), 72), 4, 1);
+    ga->setColumnStretch(3, 1);
     v->addWidget(area);
 
     auto* peso = quadro("Aço (Kg)", "Frame10");
@@ -547,6 +755,7 @@ QWidget* MainWindow::montaResultados()
     utilizacao_->setToolTip(QStringLiteral("Quanto da resistência da seção detalhada os esforços de cálculo usam, "
                                            "por compatibilidade de deformações (100 % no limite)"));
     filtroNenhum_->instala(utilizacao_);
+    rotulos_[utilizacao_] = QStringLiteral("Utilização");
     gv->addWidget(utilizacao_, 0, 1);
     auto* diagrama = new QPushButton(QStringLiteral("Dia&grama..."));
     diagrama->setObjectName(QStringLiteral("cmdDiagrama"));
@@ -558,7 +767,6 @@ QWidget* MainWindow::montaResultados()
     avisoVerificacao_ = new QLabel;
     avisoVerificacao_->setObjectName(QStringLiteral("lblAvisoVerificacao"));
     avisoVerificacao_->setWordWrap(true);
-    avisoVerificacao_->setStyleSheet(QStringLiteral("color: rgb(205, 30, 30); font-weight: bold;"));
     avisoVerificacao_->setFixedHeight(2 * avisoVerificacao_->fontMetrics().lineSpacing() + 2);
     gv->addWidget(avisoVerificacao_, 1, 0, 1, 3);
     gv->setColumnStretch(2, 1);
@@ -578,7 +786,7 @@ QWidget* MainWindow::montaResultados()
     for (auto* q : coluna->findChildren<QGroupBox*>())
         if (q->layout())
             q->layout()->setContentsMargins(8, 4, 8, 4);
-    coluna->setFixedWidth(270);
+    coluna->setMinimumWidth(250);
     return coluna;
 }
 
@@ -588,16 +796,16 @@ QWidget* MainWindow::montaBotoes()
     auto* barra = new QWidget;
     auto* h = new QHBoxLayout(barra);
     h->setContentsMargins(0, 4, 0, 0);
-    auto* calcula = botao(f.Command1, QStringLiteral("Command1"), [this] {
-        executa([this] { program_->Command1_Click(); });
-    });
+    auto* calcula = botao(f.Command1, QStringLiteral("Command1"), [this] { this->calcula(); });
     QFont negrito = calcula->font();
     negrito.setBold(true);
     calcula->setFont(negrito);
     calcula->setMinimumWidth(110);
     h->addWidget(calcula);
     h->addWidget(botao(f.Command8, QStringLiteral("Command8"), [this] {
-        executa([this] { program_->Command8_Click(); });
+        buscando_ = true;
+        calculaConferido([this] { program_->Command8_Click(); });
+        buscando_ = false;
     }));
     auto* anterior = botao(f.Command10, QStringLiteral("Command10"), [this] {
         executa([this] { program_->Command10_Click(); });
@@ -607,8 +815,6 @@ QWidget* MainWindow::montaBotoes()
     });
     anterior->setFixedWidth(32);
     seguinte->setFixedWidth(32);
-    anterior->setToolTip(QStringLiteral("Solução anterior"));
-    seguinte->setToolTip(QStringLiteral("Próxima solução"));
     h->addWidget(anterior);
     h->addWidget(seguinte);
     h->addWidget(botao(f.Command11, QStringLiteral("Command11"), [this] {
@@ -616,12 +822,105 @@ QWidget* MainWindow::montaBotoes()
         abreSolucoes();
     }));
     h->addStretch();
-    h->addWidget(botao(f.Command7, QStringLiteral("Command7"), [this] { arquivo(&Program::Command7_Click); }));
+    h->addWidget(botao(f.Command7, QStringLiteral("Command7"), [this] { valoresPadrao(); }));
     h->addSpacing(12);
     auto* sai = botao(f.Command6, QStringLiteral("Command6"), [this] { close(); });
     sai->setMinimumWidth(80);
     h->addWidget(sai);
     return barra;
+}
+
+void MainWindow::montaOrdemDeTab()
+{
+    // Tab follows the reading order of the frames, from box to box; the "-" / "+"
+    // buttons and the bar list are for the mouse.
+    const char* ordem[] = {
+        "Text1",   "Text31",  "Text2",    "Text32",   "Text23",   "Text4",    "Text5",  "Text3",
+        "Command17", "Check3", "Text16",  "Combo4",   "Text17",   "Combo5",   "Text18", "Combo6",
+        "Text20",  "Combo7",  "Text21",   "Text22",   "Combo1",   "Option1",  "Option2", "Combo2",
+        "Check1",  "Check2",  "Option3",  "Combo3",   "Option5",  "Option6",  "Check5", "Option7(1)",
+        "Option7(0)", "Text6", "AjustarDesenho", "Command1", "Command8", "Command10", "Command9", "Command11",
+        "Command7", "Command6",
+    };
+    QWidget* anterior = nullptr;
+    for (const char* nome : ordem) {
+        auto* w = centralWidget()->findChild<QWidget*>(QString::fromUtf8(nome));
+        if (w && anterior)
+            setTabOrder(anterior, w);
+        if (w)
+            anterior = w;
+    }
+}
+
+void MainWindow::montaDicas()
+{
+    // Every input says what it is, its unit and its limits.
+    const std::pair<const char*, const char*> dicas[] = {
+        {"Text1", "Base b da seção: a largura das faces com as barras de \"Base\". Em cm, inteiro; "
+                  "o mínimo é 12 cm (um valor menor é corrigido para 12)."},
+        {"Text2", "Altura h da seção, na direção do momento Md. Em cm, inteiro; o mínimo é 12 cm."},
+        {"Text23", "Comprimento do pilar, em cm: dá o peso do aço."},
+        {"Text31", "Passo dos botões - e + da base, em cm (vazio: os botões não mudam a base)."},
+        {"Text32", "Passo dos botões - e + da altura, em cm (vazio: os botões não mudam a altura)."},
+        {"Text4", "Número de barras em cada face de largura b, cantos incluídos (2 no mínimo). Mais barras do "
+                  "que cabem, a 5 cm entre eixos, são corrigidas para o máximo."},
+        {"Text5", "Número de barras em cada face de altura h, cantos incluídos (2 no mínimo). Mais barras do "
+                  "que cabem, a 5 cm entre eixos, são corrigidas para o máximo."},
+        {"Text3", "d': distância da face ao centro das barras, em cm. Vazio ou pequeno demais, o cálculo "
+                  "pergunta pelo cobrimento e o corrige."},
+        {"Check3", "Marcado: d' é calculado a partir do cobrimento (começa em 3 cm e segue as correções do "
+                   "cobrimento); a caixa d' mostra o valor encontrado."},
+        {"Command17", "Estima d' a partir do estribo, da barra e do cobrimento."},
+        {"Text16", "Nd: força normal de cálculo, compressão positiva (tração com o sinal de menos), na "
+                   "unidade ao lado."},
+        {"Combo4", "Unidade de Nd."},
+        {"Text17", "Md: momento fletor de cálculo, na unidade ao lado (sem sinal)."},
+        {"Combo5", "Unidade de Md."},
+        {"Text18", "Fck: resistência característica do concreto à compressão, na unidade ao lado. A norma "
+                   "abrange de 20 a 50 MPa; fora disso o cálculo avisa."},
+        {"Combo6", "Unidade de Fck."},
+        {"Text20", "Es: módulo de elasticidade do aço, na unidade ao lado (usual: 21000 KN/cm2); maior que zero."},
+        {"Combo7", "Unidade de Es."},
+        {"Text21", "γc: coeficiente de minoração da resistência do concreto (usual: 1.4); maior que zero."},
+        {"Text22", "γs: coeficiente de minoração da resistência do aço (usual: 1.15); maior que zero."},
+        {"Combo1", "Categoria do aço das barras longitudinais."},
+        {"Option1", "Tolerância de execução Δc = 10 mm, somada ao cobrimento mínimo da classe."},
+        {"Option2", "Tolerância de execução Δc = 5 mm (controle rígido), somada ao cobrimento mínimo da classe."},
+        {"Combo2", "Classe de agressividade ambiental, de I a IV: dá o cobrimento nominal."},
+        {"Check1", "Marcado: as correções do cobrimento e de d' são feitas sem perguntar."},
+        {"Check2", "Marcado: o cálculo escolhe a menor bitola que atende à área de aço. Desmarcado: um clique "
+                   "numa bitola a fixa para o cálculo."},
+        {"Option3", "Estribo pré-definido: o diâmetro da lista ao lado."},
+        {"Combo3", "Diâmetro do estribo pré-definido."},
+        {"Option5", "O estribo de menor consumo de aço por metro."},
+        {"Option6", "O cálculo mostra as opções de estribo e pergunta qual usar."},
+        {"Check5", "Marcado: os estribos são do mesmo aço das barras longitudinais."},
+        {"Option7(1)", "Gancho em ângulo reto (90°)."},
+        {"Option7(0)", "Gancho a 45° ou semicircular."},
+        {"Text6", "Escala do desenho exportado em SVG e PNG, em pixels por centímetro da seção; maior que zero."},
+        {"Command1", "Calcula o pilar com os valores da janela (Enter numa caixa faz o mesmo)."},
+        {"Command8", "Procura o arranjo de barras e estribo mais leve que passa em todas as verificações."},
+        {"Command9", "Próxima solução"},
+        {"Command10", "Solução anterior"},
+        {"Command11", "Lista as soluções da última busca, da mais leve à mais pesada."},
+        {"Command7", "Põe na janela os valores de \"Padrão.txt\" e limpa os resultados (Ctrl+Z desfaz)."},
+        {"Command6", "Fecha o programa; antes, pergunta por alterações não salvas."},
+        {"Command13", "Diminui a base pelo passo ao lado e calcula."},
+        {"Command16", "Aumenta a base pelo passo ao lado e calcula."},
+        {"Command14", "Diminui a altura pelo passo ao lado e calcula."},
+        {"Command15", "Aumenta a altura pelo passo ao lado e calcula."},
+        {"Command3", "Uma barra a menos em cada face da base (2 no mínimo) e calcula."},
+        {"Command2", "Uma barra a mais em cada face da base e calcula."},
+        {"Command5", "Uma barra a menos em cada face da altura (2 no mínimo) e calcula."},
+        {"Command4", "Uma barra a mais em cada face da altura e calcula."},
+    };
+    for (const auto& [nome, dica] : dicas)
+        if (auto* w = centralWidget()->findChild<QWidget*>(QString::fromUtf8(nome)))
+            w->setToolTip(QString::fromUtf8(dica));
+    for (auto* e : bitolas_)
+        e->setToolTip(QStringLiteral("%1 mm. Em azul, a bitola do último cálculo. Com \"Automático\" desmarcado, "
+                                     "um clique fixa esta bitola para o cálculo.")
+                          .arg(e->text()));
 }
 
 // ---- model <-> widgets ----
@@ -644,8 +943,11 @@ void MainWindow::copiaParaModelo()
 
 void MainWindow::atualiza()
 {
+    const bool antes = pintando_;
+    pintando_ = true;
     const auto& f = program_->Form1;
-    setWindowTitle(qs(f.Caption));
+    const bool fixa = !f.Check2.ticked() && program_->BitolaFixa >= engine::kFirstLongitudinalBar
+                      && program_->BitolaFixa <= engine::kBarCount;
     for (auto& [m, e] : caixas_) {
         const QString t = qs(m->Text);
         if (e->text() != t) {
@@ -654,7 +956,22 @@ void MainWindow::atualiza()
         }
         e->setEnabled(m->Enabled);
         e->setVisible(m->Visible);
-        pintaCaixa(e, *m);
+        const bool deResultado = e->isReadOnly();
+        pintaCaixa(e, *m, desatualizado_ && deResultado);
+    }
+    // The fixed bar is framed in orange and bold, in the colours of the result.
+    for (std::size_t i = 0; i < bitolas_.size(); ++i) {
+        const bool escolhida = fixa && program_->BitolaFixa == engine::kFirstLongitudinalBar + static_cast<int>(i);
+        QFont fonte = bitolas_[i]->font();
+        fonte.setBold(escolhida);
+        bitolas_[i]->setFont(fonte);
+        const QPalette& pal = bitolas_[i]->palette();
+        const QString estilo =
+            escolhida ? QStringLiteral("QLineEdit { border: 2px solid rgb(210, 110, 0); background: %1; color: %2; }")
+                            .arg(pal.color(QPalette::Base).name(), pal.color(QPalette::Text).name())
+                      : QString();
+        if (bitolas_[i]->styleSheet() != estilo)
+            bitolas_[i]->setStyleSheet(estilo);
     }
     for (auto& [m, c] : listas_) {
         c->setCurrentIndex(c->findText(qs(m->Text), Qt::MatchExactly | Qt::MatchCaseSensitive));
@@ -697,11 +1014,15 @@ void MainWindow::atualiza()
         else
             desenho_->clearSection();
     }
+    desenho_->setStale(desatualizado_);
     desenho_->setPlaceholderText(f.Image1Visible ? QStringLiteral("Pilarix Normal") : QString());
     mostraVerificacao();
+    avisoDesatualizado_->setVisible(desatualizado_);
+    atualizaTitulo();
+    pintando_ = antes;
 }
 
-void MainWindow::executa(const std::function<void()>& handler)
+void MainWindow::executa(const std::function<void()>& handler, Edicao edicao, const QString& descricao)
 {
     // A click that arrives while a calculation waits on one of its dialogs belongs
     // to no calculation.
@@ -715,12 +1036,41 @@ void MainWindow::executa(const std::function<void()>& handler)
         program_->falhaDeCalculo(e.what());
     }
     ocupado_ = false;
+
+    auto& p = *program_;
+    if (p.CalculosFeitos != calculosVistos_) {
+        // What is on show now was calculated from the input as it stands.
+        calculosVistos_ = p.CalculosFeitos;
+        fotoResultado_ = fotoDaEntrada(p, Alcance::Resultado);
+        desatualizado_ = false;
+        // A new list belongs to the input the search ran on; stepping through it
+        // keeps it, as the list only changes what it puts in.
+        if (buscando_ && p.NSolucoes > 0)
+            fotoBusca_ = fotoDaEntrada(p, Alcance::Busca);
+        if (!p.CorrecoesDaLeitura.empty()) {
+            QStringList correcoes;
+            for (const auto& c : p.CorrecoesDaLeitura)
+                correcoes << qs(c);
+            mostraNaBarra(correcoes.join(QStringLiteral("; ")) + QLatin1Char('.'));
+        }
+        mostraMensagens();
+    }
     atualiza();
+    if (edicao == Edicao::Usuario)
+        registraEdicao(descricao, false);
+    else
+        valoresAtuais_ = valoresDaEntrada(p, Alcance::Projeto);
+    reavalia();
 }
 
 void MainWindow::inicia()
 {
     executa([this] { program_->Form_Load(); });
+    // The defaults just loaded are where the user starts: nothing to save, nothing to undo.
+    fotoSalva_ = fotoDaEntrada(*program_, Alcance::Projeto);
+    pilhaDesfazer_->clear();
+    mostraMensagens();
+    atualizaTitulo();
 }
 
 void MainWindow::arquivo(void (Program::*handler)())
@@ -742,13 +1092,400 @@ void MainWindow::marcouDLinhaAutomatico()
     atualiza();
 }
 
+// ---- checking the input, calculating ----
+
+bool MainWindow::entradaConfere()
+{
+    copiaParaModelo();
+    const auto problema = conferenciaDaEntrada(*program_);
+    if (!problema)
+        return true;
+    auto& form = program_->Form2;
+    form.Label1.Caption = *problema;
+    form.Label2.Caption.clear();
+    dialogos_->showError(form);
+    mostraNaBarra(QStringLiteral("Nada foi calculado: ") + qs(*problema));
+    return false;
+}
+
+bool MainWindow::calculaConferido(const std::function<void()>& handler, Edicao edicao)
+{
+    if (ocupado_ || !entradaConfere())
+        return false;
+    executa(handler, edicao, edicao == Edicao::Usuario ? QStringLiteral("passo") : QString());
+    return true;
+}
+
+void MainWindow::calcula()
+{
+    calculaConferido([this] { program_->Command1_Click(); });
+}
+
+void MainWindow::valoresPadrao()
+{
+    // The defaults replace the input as one edit, undone by Ctrl+Z; what was
+    // calculated from the input they replace goes with it.
+    executa(
+        [this] {
+            auto& p = *program_;
+            p.ErroArquivo.clear();
+            p.Command7_Click();
+            if (p.ErroArquivo.empty())
+                p.LimpaResultados();
+        },
+        Edicao::Usuario, QStringLiteral("valores padrão"));
+    mostraMensagens();
+}
+
+void MainWindow::escolheBitola(int i)
+{
+    auto& f = program_->Form1;
+    copiaParaModelo();
+    const QString diametro = qs(f.Text7[static_cast<std::size_t>(i)].Text);
+    if (f.Check2.ticked()) {
+        mostraNaBarra(QStringLiteral("Com \"Automático\" marcado o cálculo escolhe a bitola: desmarque-o para "
+                                     "fixar %1 mm.")
+                          .arg(diametro));
+        return;
+    }
+    executa([this, i] { program_->BitolaFixa = engine::kFirstLongitudinalBar + i; }, Edicao::Usuario,
+            QStringLiteral("bitola"));
+    mostraNaBarra(QStringLiteral("Bitola fixada em %1 mm: o próximo cálculo usa esta bitola.").arg(diametro));
+}
+
+void MainWindow::recusouTecla(QWidget* caixa, const QString& motivo)
+{
+    dialogos_->beep();
+    const auto it = rotulos_.find(caixa);
+    mostraNaBarra((it != rotulos_.end() ? it->second : QStringLiteral("Caixa")) + QStringLiteral(": ") + motivo);
+}
+
+void MainWindow::mostraNaBarra(const QString& texto) { statusBar()->showMessage(texto, 8000); }
+
+// ---- edits, the result out of date, undo ----
+
+void MainWindow::entradaEditada(bool digitacao)
+{
+    if (pintando_ || ocupado_)
+        return;
+    copiaParaModelo();
+    registraEdicao(QString(), digitacao);
+    reavalia();
+}
+
+void MainWindow::registraEdicao(const QString& descricao, bool digitacao)
+{
+    auto agora = valoresDaEntrada(*program_, Alcance::Projeto);
+    std::vector<EdicaoDaEntrada::Mudanca> mudancas;
+    for (std::size_t i = 0; i < agora.size() && i < valoresAtuais_.size(); ++i)
+        if (agora[i].second != valoresAtuais_[i].second)
+            mudancas.push_back({agora[i].first, valoresAtuais_[i].second, agora[i].second});
+    valoresAtuais_ = std::move(agora);
+    if (mudancas.empty())
+        return;
+    // The edit is named as the menu says it: "Desfazer Base (cm)".
+    QString texto = descricao;
+    if (texto.isEmpty() && mudancas.size() == 1) {
+        const QString nome = qs(mudancas.front().nome).section(QLatin1Char('|'), 0, 0);
+        auto* w = centralWidget()->findChild<QWidget*>(nome);
+        if (w && rotulos_.count(w))
+            texto = rotulos_.at(w);
+        else if (auto* b = qobject_cast<QAbstractButton*>(w); b && !b->text().isEmpty())
+            texto = b->text().remove(QLatin1Char('&')).simplified();
+        else
+            texto = nome;
+    }
+    if (texto.isEmpty())
+        texto = QStringLiteral("edição");
+    pilhaDesfazer_->push(new EdicaoDaEntrada(std::move(mudancas), digitacao, texto,
+                                             [this](const std::vector<std::pair<std::string, std::string>>& v) {
+                                                 for (const auto& [nome, valor] : v)
+                                                     restauraEntrada(*program_, nome, valor);
+                                                 desfeito();
+                                             }));
+}
+
+void MainWindow::desfeito()
+{
+    atualiza();
+    valoresAtuais_ = valoresDaEntrada(*program_, Alcance::Projeto);
+    reavalia();
+}
+
+void MainWindow::reavalia()
+{
+    auto& p = *program_;
+    const bool haResultado = !p.Form1.Text30.Text.empty() || p.Desenho.has_value();
+    const bool estava = desatualizado_;
+    desatualizado_ = haResultado && fotoDaEntrada(p, Alcance::Resultado) != fotoResultado_;
+    bool repinta = estava != desatualizado_;
+    // The list of the search belongs to the section, forces and materials it was
+    // found for.
+    if (p.NSolucoes > 0 && fotoDaEntrada(p, Alcance::Busca) != fotoBusca_) {
+        p.LimpaSolucoes();
+        repinta = true;
+        mostraNaBarra(QStringLiteral("A lista de soluções foi limpa: a seção, as barras, os esforços ou os "
+                                     "materiais mudaram depois da busca."));
+    }
+    if (repinta) {
+        atualiza();
+        mostraMensagens();
+    }
+    atualizaTitulo();
+}
+
+bool MainWindow::modificado() const { return fotoDaEntrada(*program_, Alcance::Projeto) != fotoSalva_; }
+
+void MainWindow::atualizaTitulo()
+{
+    QString titulo = qs(program_->Form1.Caption);
+    if (!arquivoAtual_.isEmpty())
+        titulo += QStringLiteral(" — ") + QFileInfo(arquivoAtual_).fileName();
+    if (modificado())
+        titulo += QStringLiteral(" *");
+    if (windowTitle() != titulo)
+        setWindowTitle(titulo);
+}
+
+void MainWindow::mostraMensagens()
+{
+    const auto& lista = program_->MensagensDoCalculo;
+    QString texto;
+    if (lista.empty()) {
+        texto = program_->CalculosFeitos == 0 ? QStringLiteral("<p>Nenhum cálculo ainda.</p>")
+                                              : QStringLiteral("<p>O último cálculo não deu mensagens.</p>");
+    }
+    for (const auto& r : lista) {
+        const QString janela = r.kind == DialogRecord::Kind::Notice ? QStringLiteral("Aviso") : html(r.janela);
+        texto += QStringLiteral("<p><b>%1</b>: %2").arg(janela, html(r.mensagem));
+        if (!r.item.empty())
+            texto += QStringLiteral("<br><i>%1</i>").arg(html(r.item));
+        if (r.kind == DialogRecord::Kind::Cover)
+            texto += QStringLiteral("<br>Resposta: %1").arg(semAtalho(r.respostaTexto).toHtmlEscaped());
+        else if (r.kind == DialogRecord::Kind::Stirrup)
+            texto += QStringLiteral("<br>Escolha: %1").arg(html(r.respostaTexto));
+        texto += QStringLiteral("</p>");
+    }
+    if (desatualizado_)
+        texto = QStringLiteral("<p style=\"color:#aa3c00\"><b>Do cálculo anterior: a entrada mudou depois "
+                               "dele.</b></p><div style=\"color:#8c8c8c\">")
+                + texto + QStringLiteral("</div>");
+    mensagens_->setHtml(texto);
+}
+
+// ---- files ----
+
+bool MainWindow::podeDescartar(const QString& acao)
+{
+    copiaParaModelo();
+    if (!modificado())
+        return true;
+    const QString projeto =
+        arquivoAtual_.isEmpty() ? QStringLiteral("O projeto sem nome") : QStringLiteral("O projeto \"%1\"").arg(QFileInfo(arquivoAtual_).fileName());
+    const int resposta = dialogos_->askSaveChanges(
+        (projeto + QStringLiteral(" tem alterações não salvas. Salvar antes de %1?").arg(acao)).toStdString());
+    if (resposta == 1)
+        return salva();
+    return resposta == 2;
+}
+
+void MainWindow::guardouOuAbriu(const QString& nome)
+{
+    arquivoAtual_ = nome;
+    fotoSalva_ = fotoDaEntrada(*program_, Alcance::Projeto);
+    lembraRecente(nome);
+    atualizaTitulo();
+}
+
+void MainWindow::novo()
+{
+    if (!podeDescartar(QStringLiteral("começar um novo")))
+        return;
+    executa([this] {
+        auto& p = *program_;
+        p.ErroArquivo.clear();
+        p.Command7_Click();
+        if (p.ErroArquivo.empty())
+            p.LimpaResultados();
+    });
+    arquivoAtual_.clear();
+    fotoSalva_ = fotoDaEntrada(*program_, Alcance::Projeto);
+    pilhaDesfazer_->clear();
+    mostraMensagens();
+    atualizaTitulo();
+}
+
+void MainWindow::abre()
+{
+    if (!podeDescartar(QStringLiteral("abrir outro")))
+        return;
+    abreArquivo(qs(dialogos_->askOpenFileName()));
+}
+
+void MainWindow::abreArquivo(const QString& nome)
+{
+    // As "&Abrir arquivo..." always did: the file is loaded and the window calculated,
+    // also when no file was chosen; the input is checked first.
+    bool carregou = false;
+    executa([this, &nome, &carregou] {
+        auto& p = *program_;
+        p.ErroArquivo.clear();
+        if (!nome.isEmpty()) {
+            p.NomeArquivo = nome.toStdString();
+            p.Carrega33();
+            carregou = p.ErroArquivo.empty();
+        }
+    });
+    if (carregou) {
+        pilhaDesfazer_->clear();
+        guardouOuAbriu(nome);
+    } else if (!nome.isEmpty()) {
+        // A recent file that can no longer be read leaves the list.
+        QSettings s(QString::fromUtf8(kOrganizacao), QString::fromUtf8(kAplicacao));
+        QStringList lista = s.value(QString::fromUtf8(kChaveRecentes)).toStringList();
+        lista.removeAll(QFileInfo(nome).absoluteFilePath());
+        s.setValue(QString::fromUtf8(kChaveRecentes), lista);
+        montaRecentes();
+    }
+    calcula();
+}
+
+bool MainWindow::salva()
+{
+    if (arquivoAtual_.isEmpty())
+        return salvaComo();
+    bool gravou = false;
+    executa([this, &gravou] {
+        auto& p = *program_;
+        p.ErroArquivo.clear();
+        p.NomeArquivo = arquivoAtual_.toStdString();
+        p.Grava32();
+        gravou = p.ErroArquivo.empty();
+    });
+    if (gravou) {
+        guardouOuAbriu(arquivoAtual_);
+        mostraNaBarra(QStringLiteral("Salvo em %1").arg(arquivoAtual_));
+    }
+    return gravou;
+}
+
+bool MainWindow::salvaComo()
+{
+    bool gravou = false;
+    executa([this, &gravou] {
+        auto& p = *program_;
+        p.ErroArquivo.clear();
+        p.mnuItemSave_Click();
+        gravou = !p.NomeArquivo.empty() && p.ErroArquivo.empty();
+    });
+    if (gravou) {
+        guardouOuAbriu(qs(program_->NomeArquivo));
+        mostraNaBarra(QStringLiteral("Salvo em %1").arg(arquivoAtual_));
+    }
+    return gravou;
+}
+
+QStringList MainWindow::arquivosRecentes() const
+{
+    QSettings s(QString::fromUtf8(kOrganizacao), QString::fromUtf8(kAplicacao));
+    return s.value(QString::fromUtf8(kChaveRecentes)).toStringList();
+}
+
+void MainWindow::lembraRecente(const QString& nome)
+{
+    QSettings s(QString::fromUtf8(kOrganizacao), QString::fromUtf8(kAplicacao));
+    QStringList lista = s.value(QString::fromUtf8(kChaveRecentes)).toStringList();
+    const QString caminho = QFileInfo(nome).absoluteFilePath();
+    lista.removeAll(caminho);
+    lista.prepend(caminho);
+    while (lista.size() > kMaximoRecentes)
+        lista.removeLast();
+    s.setValue(QString::fromUtf8(kChaveRecentes), lista);
+    montaRecentes();
+}
+
+void MainWindow::montaRecentes()
+{
+    menuRecentes_->clear();
+    const QStringList lista = arquivosRecentes();
+    int n = 0;
+    for (const QString& caminho : lista) {
+        auto* a = menuRecentes_->addAction(QStringLiteral("&%1 %2").arg(++n).arg(QFileInfo(caminho).fileName()));
+        a->setToolTip(caminho);
+        a->setStatusTip(caminho);
+        connect(a, &QAction::triggered, this, [this, caminho] {
+            if (podeDescartar(QStringLiteral("abrir outro")))
+                abreArquivo(caminho);
+        });
+    }
+    if (lista.isEmpty()) {
+        menuRecentes_->addAction(QStringLiteral("(nenhum)"))->setEnabled(false);
+        return;
+    }
+    menuRecentes_->addSeparator();
+    menuRecentes_->addAction(QStringLiteral("&Limpar a lista"), this, [this] {
+        QSettings s(QString::fromUtf8(kOrganizacao), QString::fromUtf8(kAplicacao));
+        s.remove(QString::fromUtf8(kChaveRecentes));
+        montaRecentes();
+    });
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (ocupado_ || !podeDescartar(QStringLiteral("fechar"))) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+}
+
+// ---- the layout on small screens ----
+
+void MainWindow::dispoeColunas()
+{
+    // Side by side while the drawing keeps a useful width beside them, one above
+    // the other on a narrow screen (or a large scaling).
+    const int barra = rolagemEntradas_->verticalScrollBar()->sizeHint().width();
+    const int duas = colunaEntradas_->minimumWidth() + colunaOpcoes_->minimumWidth() + colunasDeEntrada_->spacing();
+    const int uma = std::max(colunaEntradas_->minimumWidth(), colunaOpcoes_->minimumWidth());
+    const int resto = width() - rolagemResultados_->minimumWidth() - 40;
+    const bool lado = resto - (duas + barra) >= 360;
+    colunasDeEntrada_->setDirection(lado ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    rolagemEntradas_->setFixedWidth((lado ? duas : uma) + barra + 2);
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    dispoeColunas();
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonRelease && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+        for (std::size_t i = 0; i < bitolas_.size(); ++i)
+            if (watched == bitolas_[i] && bitolas_[i]->rect().contains(static_cast<QMouseEvent*>(event)->position().toPoint())) {
+                escolheBitola(static_cast<int>(i));
+                return true;
+            }
+    return QMainWindow::eventFilter(watched, event);
+}
+
 // ---- the other forms ----
 
 void MainWindow::abreOutrosValores()
 {
     if (!outros_)
         outros_ = new OtherValuesDialog(
-            program_->Form8, [this] { executa([this] { program_->Form8Command1_Click(); }); }, this);
+            program_->Form8,
+            [this] { executa([this] { program_->Form8Command1_Click(); }, Edicao::Usuario, QStringLiteral("outros valores")); },
+            [this](const std::string& mensagem) {
+                auto& form = program_->Form2;
+                form.Label1.Caption = mensagem;
+                form.Label2.Caption.clear();
+                dialogos_->showError(form);
+            },
+            this);
     outros_->carrega();
     outros_->exec();
 }
@@ -758,7 +1495,8 @@ void MainWindow::abreEstimativaDLinha()
     if (!estimativa_)
         estimativa_ = new DEstimateDialog(
             program_->Form5, [this] { executa([this] { program_->Form5Calcula(); }); },
-            [this] { executa([this] { program_->Form5Aceita(); }); }, this);
+            [this] { executa([this] { program_->Form5Aceita(); }, Edicao::Usuario, QStringLiteral("estimativa de d'")); },
+            this);
     estimativa_->carrega();
     estimativa_->exec();
 }
@@ -779,6 +1517,11 @@ void MainWindow::exportaDesenho()
         dialogos_->notice("Calcule a seção antes de exportar o desenho: não há seção detalhada para desenhar.");
         return;
     }
+    copiaParaModelo();
+    if (const auto problema = conferenciaDaEscala(p.Form1.Text6.Text)) {
+        dialogos_->notice(*problema);
+        return;
+    }
     // The project's name, with the drawing's extension in place of its own.
     std::string proposto = p.NomeArquivo.empty() || p.NomeArquivo == "Padrão.txt" ? "pilar" : p.NomeArquivo;
     if (const auto ponto = proposto.find_last_of('.'); ponto != std::string::npos && proposto.find('/', ponto) == std::string::npos)
@@ -787,8 +1530,13 @@ void MainWindow::exportaDesenho()
     if (nome.empty())
         return;
     std::string erro;
-    if (!render::exportDrawing(*p.Desenho, nome, p.Escala > 0 ? p.Escala : 5, erro))
+    if (!render::exportDrawing(*p.Desenho, nome, Val(p.Form1.Text6.Text), erro))
         dialogos_->notice(erro);
+}
+
+void MainWindow::imprimeMemorial()
+{
+    dialogos_->notice("O memorial de cálculo ainda não está disponível nesta versão do Pilarix.");
 }
 
 namespace {
@@ -817,24 +1565,33 @@ void MainWindow::mostraVerificacao()
 {
     const auto& v = program_->Verificacao;
     QPalette pal = utilizacao_->palette();
+    QPalette palAviso = avisoVerificacao_->palette();
     if (!v) {
         utilizacao_->clear();
         avisoVerificacao_->clear();
     } else {
         utilizacao_->setText(utilisationText(v->utilisation));
-        pal.setColor(QPalette::Text, utilisationColour(v->utilisation));
+        pal.setColor(QPalette::Text, desatualizado_ ? kLetraDesatualizada : utilisationColour(v->utilisation));
         const bool naoResiste = !(v->utilisation <= 1);
         avisoVerificacao_->setText(naoResiste ? QStringLiteral("A seção detalhada NÃO resiste aos esforços "
                                                                "(utilização %1).")
                                                     .arg(utilisationText(v->utilisation))
                                               : QString());
     }
+    pal.setColor(QPalette::Base, desatualizado_ ? esmaecida(Qt::white) : QColor(Qt::white));
     utilizacao_->setPalette(pal);
+    QFont fonte = avisoVerificacao_->font();
+    fonte.setBold(true);
+    avisoVerificacao_->setFont(fonte);
+    palAviso.setColor(QPalette::WindowText, desatualizado_ ? kLetraDesatualizada : QColor(205, 30, 30));
+    avisoVerificacao_->setPalette(palAviso);
     if (diagrama_ && diagrama_->isVisible()) {
         if (v)
             diagrama_->mostra(dadosDoDiagrama(*program_));
         else
             diagrama_->limpa();
+        diagrama_->setWindowTitle(desatualizado_ ? QStringLiteral("Diagrama de interação (desatualizado)")
+                                                 : QStringLiteral("Diagrama de interação"));
     }
 }
 
@@ -842,11 +1599,8 @@ void MainWindow::abreDiagrama()
 {
     if (!diagrama_)
         diagrama_ = new InteractionDialog(this);
-    if (program_->Verificacao)
-        diagrama_->mostra(dadosDoDiagrama(*program_));
-    else
-        diagrama_->limpa();
     diagrama_->show();
+    mostraVerificacao();
     diagrama_->raise();
     diagrama_->activateWindow();
 }
@@ -855,6 +1609,15 @@ void MainWindow::abreSobre()
 {
     AboutDialog sobre(this);
     sobre.exec();
+}
+
+void MainWindow::abreAjuda()
+{
+    if (!ajuda_)
+        ajuda_ = new HelpDialog(this);
+    ajuda_->show();
+    ajuda_->raise();
+    ajuda_->activateWindow();
 }
 
 } // namespace pilarix::ui

@@ -3,27 +3,42 @@
 // any handler of the program runs, the widgets' values are copied into the model;
 // after it, every widget is refreshed from the model (texts, colours, visibility,
 // the drawing). The calculation itself never sees a widget.
+//
+// Around the program's own behaviour the window keeps what a desktop user relies
+// on: the result on show is marked out of date as soon as an input it was made from
+// changes; the messages of the last calculation stay listed beside the drawing; the
+// input is checked before it is read (an empty box is named, not read as 0); the
+// project's name and its unsaved changes are in the title, with a question before
+// they are lost; edits can be undone; the frames fit a small screen.
 
 #include "window/program.h"
 #include "ui/key_filters.h"
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QString>
 
+#include <array>
 #include <functional>
+#include <map>
 #include <memory>
+#include <string>
 #include <utility>
 #include <vector>
 
 class QAction;
+class QBoxLayout;
 class QCheckBox;
 class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QMenu;
 class QPushButton;
 class QRadioButton;
 class QScrollArea;
+class QTextBrowser;
+class QUndoStack;
 
 namespace pilarix::ui {
 
@@ -33,6 +48,7 @@ class OtherValuesDialog;
 class DEstimateDialog;
 class SolutionsDialog;
 class InteractionDialog;
+class HelpDialog;
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -47,41 +63,106 @@ public:
     // The start of the program: the default-values file is loaded into the window.
     void inicia();
 
+    // Whether a handler changes the input as the user's own edit (undone by Ctrl+Z:
+    // a step button, the d' estimate accepted, "Outros valores", the bar clicked,
+    // "Valores padrão") or as the program's work (a calculation's corrections, the
+    // search, a file loaded), which is not undone.
+    enum class Edicao { Programa, Usuario };
+
     // Runs a handler of the program between the two copies: widgets to model before,
     // model to widgets after. A calculation that cannot go on ends in its message.
-    void executa(const std::function<void()>& handler);
+    void executa(const std::function<void()>& handler, Edicao edicao = Edicao::Programa,
+                 const QString& descricao = QString());
 
     void copiaParaModelo();
     void atualiza();
 
     SectionCanvas* desenho() const { return desenho_; }
+    QTextBrowser* mensagens() const { return mensagens_; }
+    QUndoStack* pilhaDesfazer() const { return pilhaDesfazer_; }
+    // The result on show was made from other input than the window now holds.
+    bool desatualizado() const { return desatualizado_; }
+    // The input differs from the project as last saved or opened.
+    bool modificado() const;
+    // The project file the window holds ("" before one is opened or saved).
+    const QString& arquivoAtual() const { return arquivoAtual_; }
+
+    // Calculates as "&Calcula" does, once the input has been checked.
+    void calcula();
+    // The window's own file commands: each asks before unsaved changes are lost.
+    void novo();
+    void abre();
+    void abreArquivo(const QString& nome);
+    bool salva();
+    bool salvaComo();
+
+    // The recent projects of the "Arquivo" menu, most recent first.
+    QStringList arquivosRecentes() const;
 
 public slots:
     void abreOutrosValores();
     void abreEstimativaDLinha();
     void abreSolucoes();
     void abreSobre();
+    void abreAjuda();
     void exportaDesenho();
     void abreDiagrama();
+    // Ctrl+P: the calculation report.
+    void imprimeMemorial();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void montaMenus();
     QWidget* montaEntradas();
     QWidget* montaOpcoes();
     QWidget* montaDesenho();
+    QWidget* montaMensagens();
     QWidget* montaResultados();
     QWidget* montaBotoes();
+    void montaOrdemDeTab();
+    void montaDicas();
 
-    QLineEdit* caixa(TextBox& m, const QString& nome, Teclas regra, int largura);
+    QLineEdit* caixa(TextBox& m, const QString& nome, Teclas regra, int largura, const QString& rotulo);
     QLineEdit* resultado(TextBox& m, const QString& nome, int largura);
-    QComboBox* lista(ComboBox& m, const QString& nome);
+    QComboBox* lista(ComboBox& m, const QString& nome, const QString& rotulo);
     QCheckBox* marca(CheckBox& m, const QString& nome, const QString& texto);
     QRadioButton* opcao(OptionButton& m, const QString& nome);
     QPushButton* botao(CommandButton& m, const QString& nome, std::function<void()> acao);
-    QPushButton* passo(CommandButton& m, const QString& nome, void (Program::*handler)());
+    QPushButton* passo(CommandButton& m, const QString& nome, void (Program::*handler)(),
+                       const TextBox* passoCaixa = nullptr);
     QAction* acao(const QString& texto, const QString& nome, std::function<void()> f);
     void arquivo(void (Program::*handler)());
     void marcouDLinhaAutomatico();
+
+    // The input is checked by the window before a calculation reads it; false (with
+    // the message shown) when it cannot be calculated.
+    bool entradaConfere();
+    bool calculaConferido(const std::function<void()>& handler, Edicao edicao = Edicao::Programa);
+    void valoresPadrao();
+    void escolheBitola(int i);
+    void recusouTecla(QWidget* caixa, const QString& motivo);
+    void mostraNaBarra(const QString& texto);
+
+    // An input widget changed: the edit is kept for undo, and the result, the list
+    // and the title are brought up to date with it.
+    void entradaEditada(bool digitacao);
+    void registraEdicao(const QString& descricao, bool digitacao);
+    void reavalia();
+    void atualizaTitulo();
+    void mostraMensagens();
+    void mostraVerificacao();
+    void desfeito(); // after an undo or a redo has put values back into the model
+
+    // Before input not saved is replaced: true when it may go (saved or discarded).
+    bool podeDescartar(const QString& acao);
+    void guardouOuAbriu(const QString& nome);
+    void lembraRecente(const QString& nome);
+    void montaRecentes();
+    void dispoeColunas();
 
     std::unique_ptr<QtDialogs> dialogosProprios_;
     DialogPort* dialogos_;
@@ -93,6 +174,8 @@ private:
     std::vector<std::pair<OptionButton*, QRadioButton*>> opcoes_;
     std::vector<std::pair<CommandButton*, QPushButton*>> botoes_;
     std::vector<std::vector<QRadioButton*>> grupos_;
+    std::map<const QWidget*, QString> rotulos_; // the name a message gives each input
+    std::array<QLineEdit*, 8> bitolas_{};
 
     KeyFilter* filtroInteiro_;
     KeyFilter* filtroDecimal_;
@@ -100,16 +183,36 @@ private:
     KeyFilter* filtroBitola_;
     KeyFilter* filtroNenhum_;
 
+    QWidget* colunaEntradas_ = nullptr;
+    QWidget* colunaOpcoes_ = nullptr;
+    QBoxLayout* colunasDeEntrada_ = nullptr;
+    QScrollArea* rolagemEntradas_ = nullptr;
+    QScrollArea* rolagemResultados_ = nullptr;
+
     SectionCanvas* desenho_ = nullptr;
     unsigned versaoDoDesenho_ = 0; // the drawing the canvas shows, so that a refresh keeps its zoom
+    QTextBrowser* mensagens_ = nullptr;
     QPointer<OtherValuesDialog> outros_;
     QPointer<DEstimateDialog> estimativa_;
     QPointer<SolutionsDialog> solucoes_;
     QPointer<InteractionDialog> diagrama_;
+    QPointer<HelpDialog> ajuda_;
     QLineEdit* utilizacao_ = nullptr;
     QLabel* avisoVerificacao_ = nullptr;
-    void mostraVerificacao();
-    bool ocupado_ = false;
+    QLabel* avisoDesatualizado_ = nullptr;
+    QMenu* menuRecentes_ = nullptr;
+    QUndoStack* pilhaDesfazer_ = nullptr;
+
+    bool ocupado_ = false;  // a handler of the program is running
+    bool pintando_ = false; // the widgets are being set from the model
+    bool desatualizado_ = false;
+    bool buscando_ = false; // "Calcula &melhor solução" is running
+    unsigned calculosVistos_ = 0;
+    std::string fotoResultado_; // the input the result on show was calculated from
+    std::string fotoBusca_;     // the input the list of the search was found for
+    std::string fotoSalva_;     // the input as the project was last saved or opened
+    std::vector<std::pair<std::string, std::string>> valoresAtuais_; // for undo: the input before the next edit
+    QString arquivoAtual_;
 };
 
 } // namespace pilarix::ui

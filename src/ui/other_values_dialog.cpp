@@ -1,5 +1,9 @@
 #include "ui/other_values_dialog.h"
 
+#include "ui/key_filters.h"
+#include "window/window_input.h"
+
+#include <QApplication>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -23,8 +27,9 @@ void mostraTexto(QComboBox* c, const ComboBox& m)
 }
 } // namespace
 
-OtherValuesDialog::OtherValuesDialog(Form8Model& form, std::function<void()> voltar, QWidget* parent)
-    : QDialog(parent), form_(form), voltar_(std::move(voltar))
+OtherValuesDialog::OtherValuesDialog(Form8Model& form, std::function<void()> voltar,
+                                     std::function<void(const std::string&)> avisa, QWidget* parent)
+    : QDialog(parent), form_(form), voltar_(std::move(voltar)), avisa_(std::move(avisa))
 {
     setObjectName(QStringLiteral("Form8"));
     setModal(true);
@@ -38,8 +43,24 @@ OtherValuesDialog::OtherValuesDialog(Form8Model& form, std::function<void()> vol
     text2_->setObjectName(QStringLiteral("Text2"));
     text1_ = new QLineEdit(this);
     text1_->setObjectName(QStringLiteral("Text1"));
-    for (QLineEdit* e : {text1_, text2_})
+    tecla_ = new QLabel(this);
+    tecla_->setObjectName(QStringLiteral("lblTecla"));
+    tecla_->setWordWrap(true);
+    // Numbers as typed in Brazil, the comma taken as the decimal point.
+    auto* filtro = new KeyFilter(
+        Teclas::Decimal,
+        [this](QWidget* w, const QString& motivo) {
+            QApplication::beep();
+            tecla_->setText((w == text1_ ? QStringLiteral("Precisão: ") : QStringLiteral("Agregado: ")) + motivo);
+        },
+        this);
+    for (QLineEdit* e : {text1_, text2_}) {
         e->setMaximumWidth(100);
+        filtro->instala(e);
+    }
+    text1_->setToolTip(QStringLiteral("Precisão das soluções iterativas: maior que 0 e no máximo 0.01 (padrão 0.0001)."));
+    text2_->setToolTip(QStringLiteral("Diâmetro máximo do agregado graúdo, em cm, maior que zero; vazio quando "
+                                      "não é dado."));
     preencheLista(combo1_, form_.Combo1);
     preencheLista(combo3_, form_.Combo3);
 
@@ -72,6 +93,7 @@ OtherValuesDialog::OtherValuesDialog(Form8Model& form, std::function<void()> vol
     raiz->addSpacing(6);
     raiz->addWidget(nota);
     raiz->addSpacing(6);
+    raiz->addWidget(tecla_);
     raiz->addLayout(botoes);
     setMinimumWidth(460);
     carrega();
@@ -79,6 +101,7 @@ OtherValuesDialog::OtherValuesDialog(Form8Model& form, std::function<void()> vol
 
 void OtherValuesDialog::carrega()
 {
+    tecla_->clear();
     mostraTexto(combo1_, form_.Combo1);
     mostraTexto(combo3_, form_.Combo3);
     text2_->setText(QString::fromStdString(form_.Text2.Text));
@@ -99,14 +122,28 @@ void OtherValuesDialog::devolve()
 
 void OtherValuesDialog::volta()
 {
+    // A precision out of range could stop an iterative stage; an aggregate of no size
+    // is no aggregate. The dialog stays open on the box to correct.
+    const std::string precisao = text1_->text().toStdString();
+    if (const auto problema = conferenciaDeOutrosValores(precisao, text2_->text().toStdString())) {
+        if (avisa_)
+            avisa_(*problema);
+        QLineEdit* errada = conferenciaDeOutrosValores(precisao, {}) ? text1_ : text2_;
+        errada->setFocus();
+        errada->selectAll();
+        return;
+    }
     devolve();
     if (voltar_)
         voltar_();
     accept();
 }
 
-// Closing the window keeps what was typed, as "&Voltar" does: the dialog is only
-// hidden and its values live on.
-void OtherValuesDialog::reject() { volta(); }
+// Esc and the close button cancel: the boxes show the values kept, untouched.
+void OtherValuesDialog::reject()
+{
+    carrega();
+    QDialog::reject();
+}
 
 } // namespace pilarix::ui

@@ -1,6 +1,8 @@
 #pragma once
 // "Outros valores": precision of the iterative solutions, the largest aggregate and
-// the largest bar and stirrup diameters the bar choice may use.
+// the largest bar and stirrup diameters the bar choice may use. "&Voltar" keeps what
+// was chosen once the precision and the aggregate are in range; Esc and the close
+// button leave every value as it was.
 
 #include "window/forms.h"
 
@@ -9,6 +11,7 @@
 #include <functional>
 
 class QComboBox;
+class QLabel;
 class QLineEdit;
 
 namespace pilarix::ui {
@@ -17,8 +20,9 @@ class OtherValuesDialog : public QDialog {
     Q_OBJECT
 public:
     // `voltar` runs the program's own "&Voltar" handler once the boxes are back in
-    // the model.
-    OtherValuesDialog(Form8Model& form, std::function<void()> voltar, QWidget* parent = nullptr);
+    // the model; `avisa` shows why a value is refused.
+    OtherValuesDialog(Form8Model& form, std::function<void()> voltar,
+                      std::function<void(const std::string&)> avisa, QWidget* parent = nullptr);
 
     void carrega();  // model -> boxes
     void devolve();  // boxes -> model
@@ -31,6 +35,8 @@ private:
 
     Form8Model& form_;
     std::function<void()> voltar_;
+    std::function<void(const std::string&)> avisa_;
+    QLabel* tecla_; // what a box refused
     QComboBox* combo1_;
     QComboBox* combo3_;
     QLineEdit* text2_;

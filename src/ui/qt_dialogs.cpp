@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace pilarix::ui {
 
@@ -72,6 +73,22 @@ std::string QtDialogs::askSaveFileName()
     if (d.exec() != QDialog::Accepted || d.selectedFiles().isEmpty())
         return {};
     return d.selectedFiles().constFirst().toStdString();
+}
+
+int QtDialogs::askSaveChanges(const std::string& question)
+{
+    QMessageBox caixa(QMessageBox::Warning, QStringLiteral("Pilarix Normal"), QString::fromStdString(question),
+                      QMessageBox::NoButton, parent_);
+    caixa.setObjectName(QStringLiteral("perguntaSalvar"));
+    QAbstractButton* salvar = caixa.addButton(QStringLiteral("&Salvar"), QMessageBox::AcceptRole);
+    QAbstractButton* descartar = caixa.addButton(QStringLiteral("&Não salvar"), QMessageBox::DestructiveRole);
+    QAbstractButton* cancelar = caixa.addButton(QStringLiteral("Cancelar"), QMessageBox::RejectRole);
+    caixa.setDefaultButton(static_cast<QPushButton*>(salvar));
+    caixa.setEscapeButton(cancelar);
+    caixa.exec();
+    if (caixa.clickedButton() == salvar)
+        return 1;
+    return caixa.clickedButton() == descartar ? 2 : 0;
 }
 
 std::string QtDialogs::askDrawingFileName(const std::string& proposed)

@@ -25,7 +25,7 @@ void contaOsDialogos(const PolicyDialogs& d)
 }
 } // namespace
 
-int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto)
+int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto, QSize tela)
 {
     // Every question gets its first answer; nothing waits for a user.
     PolicyDialogs respostas;
@@ -46,9 +46,13 @@ int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto)
     }
     janela.executa([&] { janela.program().Command1_Click(); });
     contaOsDialogos(respostas);
+    if (tela.isValid()) {
+        // Pixels of the screen are device pixels: the window's own size is that
+        // divided by the scaling.
+        const double escala = janela.devicePixelRatioF();
+        janela.resize(static_cast<int>(tela.width() / escala), static_cast<int>(tela.height() / escala));
+    }
     janela.show();
-    QApplication::processEvents();
-    janela.adjustSize();
     QApplication::processEvents();
     const QPixmap imagem = janela.grab();
     if (!imagem.save(arquivoPng, "PNG")) {

@@ -3,12 +3,16 @@
 // calculate, and save a picture of the whole window. The questions of the
 // calculation get the first answer, and its messages go to standard error.
 
+#include <QSize>
 #include <QString>
 
 namespace pilarix::ui {
 
 // Returns the exit status: 0 saved, 1 the picture could not be written, 2 the
-// project could not be read.
-int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto);
+// project could not be read. With a valid `tela` (pixels of the screen, e.g.
+// 1366 x 768) the window fills that screen, at the scaling the platform is given
+// (QT_SCALE_FACTOR); without it the window has the size it opens at on the
+// platform's screen.
+int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto, QSize tela = {});
 
 } // namespace pilarix::ui

@@ -1,5 +1,7 @@
 #include "ui/stirrup_choice_dialog.h"
 
+#include "ui/text_fit.h"
+
 #include <QButtonGroup>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -7,6 +9,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace pilarix::ui {
 
@@ -53,7 +57,7 @@ StirrupChoiceDialog::StirrupChoiceDialog(QWidget* parent) : QDialog(parent)
     auto* raiz = new QVBoxLayout(this);
     raiz->addWidget(quadro);
     raiz->addLayout(botoes);
-    setMinimumWidth(520);
+    raiz->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void StirrupChoiceDialog::preenche(const Form7Model& form)
@@ -81,6 +85,13 @@ void StirrupChoiceDialog::preenche(const Form7Model& form)
     for (std::size_t i = 0; i < opcoes_.size(); ++i)
         opcoes_[i]->setChecked(algumaMarcada ? (form.Option1[i].Value && form.Option1[i].Enabled) : i == 4);
     grupo->setExclusive(true);
+    // The explanation wraps at the width of the widest option, and shows whole.
+    int largura = 480;
+    for (auto* o : opcoes_)
+        if (!o->isHidden())
+            largura = std::max(largura, o->sizeHint().width());
+    ajustaAoTexto(label1_, largura);
+    ajustaAoTexto(label2_, largura);
     adjustSize();
 }
 

@@ -18,6 +18,8 @@ public:
     int stirrupOption = 4; // element of Option1 chosen in "Escolha dos estribos"
     std::string openFileName, saveFileName, drawingFileName; // empty: the file dialogs are cancelled
     std::vector<DialogRecord> records;
+    int saveChangesAnswer = 0; // 1 save, 2 discard, 0 cancel
+    std::vector<std::string> saveChangesQuestions;
     int beeps = 0;
 
     void showError(const Form2Model& form) override;
@@ -28,6 +30,11 @@ public:
     std::string askOpenFileName() override { return openFileName; }
     std::string askSaveFileName() override { return saveFileName; }
     std::string askDrawingFileName(const std::string&) override { return drawingFileName; }
+    int askSaveChanges(const std::string& question) override
+    {
+        saveChangesQuestions.push_back(question);
+        return saveChangesAnswer;
+    }
 
     // The text of the last dialog shown; empty when none was.
     std::string lastMessage() const { return records.empty() ? std::string() : records.back().mensagem; }

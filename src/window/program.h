@@ -98,13 +98,13 @@ public:
     // given: the error dialogs, the cover question, the stirrup choice, the notices.
     std::vector<DialogRecord> MensagensDoCalculo;
 
-    // The pass Programa0 runs: the interactive pass (reads the window, asks, shows
-    // every message and the results) or the silent pass of the search (reads
-    // nothing, shows nothing, keeps the arrangement if it passes). A "&Calcula" with
-    // "d' automático f(cobrimento)" ticked runs the silent pass on the values
-    // already read, as the program always did.
+    // The pass a calculation runs: the interactive pass of "&Calcula" (reads the
+    // window, asks, shows every message and the results) or the silent pass of the
+    // best-solution search (shows nothing, keeps the arrangements that pass). The
+    // silent pass is the search's own state, never a box of the window: "d'
+    // automático f(cobrimento)" ticked only means that d' comes from the cover.
     enum class Passe { Interativo, Silencioso };
-    Passe passeDoCalculo() const { return Form1.Check3.ticked() ? Passe::Silencioso : Passe::Interativo; }
+    Passe passeDoCalculo() const { return buscaEmCurso_ ? Passe::Silencioso : Passe::Interativo; }
 
     // ---- driver (window/programa.cpp) ----
     void Programa0();
@@ -124,6 +124,9 @@ public:
 
     // ---- input (window/read_input.cpp, window/units.cpp) ----
     void Ler02();
+    // What the last Ler02 rewrote in the boxes (a side raised to 12 cm, a bar count
+    // that does not fit), said to the user beside the corrected box.
+    std::vector<std::string> CorrecoesDaLeitura;
     void Unidades30();
     void UltimoDiametroLongitudunal();
     void UltimoDiametroEstribo();
@@ -132,17 +135,24 @@ public:
     // ---- result boxes (window/results.cpp) ----
     void Zera31();
     void Imprime37();
+    // Nothing calculated on show: the result boxes, the drawing, the check, the
+    // messages of the last calculation and the list of the search are cleared.
+    void LimpaResultados();
+    // Counts the calculations run (of "&Calcula", the step buttons and the search),
+    // so that the window knows when what it shows was calculated.
+    unsigned CalculosFeitos = 0;
 
     // ---- best-solution search (window/solutions.cpp) ----
     double NSolucoes = 0;
     std::int16_t SolucaoAtual = 0;
     std::string SolucaoNoForm; // "s" once a stored solution has been put into the window
-    double IndiceEstriboBusca = 0; // stirrup of the arrangement a silent pass stores
     std::vector<SolutionRow> Solucoes;  // in the order of discovery
     std::vector<SolutionRow> Ordenadas; // ascending by weight, stable
 
     void Command8_Click();  // "Calcula &melhor solução"
-    void GuardaValores42();
+    // The list of the search no longer belongs to the window's input: it is emptied
+    // and its buttons hidden.
+    void LimpaSolucoes();
     void EscolheValores43();
     void ValoresnoForm1144();
     void Command11_Click(); // "&Outras soluções"
@@ -195,11 +205,12 @@ public:
 private:
     void programa0Passes();
     void passeInterativo();
-    void passeSilencioso();
     void calculaCasos(engine::Questions& perguntas);
     void finalDeErro();
 
     DialogPort* dialogs_;
+    bool buscaEmCurso_ = false;
+    friend class BuscaEmCurso;
 };
 
 } // namespace pilarix

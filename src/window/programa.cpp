@@ -1,6 +1,6 @@
 // The calculation driver of the window: one complete design of the column from the
-// window's values, through the engine, in the interactive pass or the silent pass
-// of the search; and the step buttons.
+// window's values, through the engine, in the interactive pass (d' typed or found
+// from the cover); and the step buttons. The silent pass belongs to the search.
 
 #include "window/program.h"
 
@@ -117,13 +117,10 @@ void Program::Programa0()
 
 void Program::programa0Passes()
 {
+    ++CalculosFeitos;
     MensagensDoCalculo.clear();
     metodo.Recalcula = engine::Recalculation::No;
     Form1.Image1Visible = false;
-    if (passeDoCalculo() == Passe::Silencioso) {
-        passeSilencioso();
-        return;
-    }
 
     std::feclearexcept(FE_ALL_EXCEPT);
     Ler02();
@@ -183,25 +180,6 @@ void Program::passeInterativo()
     } else {
         finalDeErro();
     }
-}
-
-// The silent pass on the values already read: the stirrup is the one the window's
-// state holds, d' is found from the cover, and an arrangement that passes is kept.
-void Program::passeSilencioso()
-{
-    Desenho.reset();
-    ++VersaoDoDesenho;
-    Zera31();
-    engine::ColumnInput in = entradaDoCalculo();
-    in.dLinha.automatic = true;
-    const engine::ColumnResult r =
-        engine::calculateCandidate(in, {metodo.DiamEstribo, metodo.PesoEstribo}, memoria, metodo);
-    if (r.dLinhaText)
-        Form1.Text3.Text = *r.dLinhaText;
-    if (r.failure)
-        falhaDeCalculo(*r.failure);
-    else if (r.passedSearch)
-        GuardaValores42();
 }
 
 // ---- "&Calcula" and the step buttons ----

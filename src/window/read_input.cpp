@@ -20,12 +20,17 @@ constexpr double kMenorLado = 12;
 void Program::Ler02()
 {
     auto& f = Form1;
+    CorrecoesDaLeitura.clear();
 
     // 1. Minimum section side (no upper bound).
-    if (Val(f.Text1.Text) < kMenorLado)
+    if (Val(f.Text1.Text) < kMenorLado) {
         f.Text1.Text = "12";
-    if (Val(f.Text2.Text) < kMenorLado)
+        CorrecoesDaLeitura.push_back("Base corrigida para 12 cm (mínimo)");
+    }
+    if (Val(f.Text2.Text) < kMenorLado) {
         f.Text2.Text = "12";
+        CorrecoesDaLeitura.push_back("Altura corrigida para 12 cm (mínimo)");
+    }
 
     // 2-3. Bars that fit on a face, at least 5 cm apart. The width rounds (half to
     // even) and the depth takes the whole part: the asymmetry is the program's own.
@@ -38,14 +43,19 @@ void Program::Ler02()
         nMaxAltura = 2;
 
     // 4-5. Bar counts that do not fit are brought back; 0 and 1 pass unchanged.
+    auto corrige = [this](TextBox& caixa, const std::string& n, const char* face, const char* porque) {
+        caixa.Text = n;
+        CorrecoesDaLeitura.push_back(std::string("Barras nas faces da ") + face + " corrigidas para " + n + " ("
+                                     + porque + ")");
+    };
     if (Val(f.Text4.Text) > nMaxBase)
-        f.Text4.Text = Str(nMaxBase);
+        corrige(f.Text4, Str(nMaxBase), "base", "o máximo que cabe na base");
     if (Val(f.Text4.Text) > 500)
-        f.Text4.Text = "500";
+        corrige(f.Text4, "500", "base", "o máximo");
     if (Val(f.Text5.Text) > nMaxAltura)
-        f.Text5.Text = Str(nMaxAltura);
+        corrige(f.Text5, Str(nMaxAltura), "altura", "o máximo que cabe na altura");
     if (Val(f.Text5.Text) > 500)
-        f.Text5.Text = "500";
+        corrige(f.Text5, "500", "altura", "o máximo");
 
     // 6-8.
     nBase = Val(f.Text4.Text);

@@ -25,6 +25,16 @@ void Program::Zera31()
     ResultadosDosCasos.clear();
 }
 
+void Program::LimpaResultados()
+{
+    Zera31();
+    Desenho.reset();
+    ++VersaoDoDesenho;
+    Form1.Image1Visible = true;
+    MensagensDoCalculo.clear();
+    LimpaSolucoes();
+}
+
 void Program::Imprime37()
 {
     auto& f = Form1;

@@ -16,6 +16,18 @@
 
 namespace pilarix {
 
+// The silent pass is the state of the search while the engine tries its candidates.
+class BuscaEmCurso {
+public:
+    explicit BuscaEmCurso(Program& p) : p_(p) { p_.buscaEmCurso_ = true; }
+    ~BuscaEmCurso() { p_.buscaEmCurso_ = false; }
+    BuscaEmCurso(const BuscaEmCurso&) = delete;
+    BuscaEmCurso& operator=(const BuscaEmCurso&) = delete;
+
+private:
+    Program& p_;
+};
+
 namespace {
 
 // A weight no arrangement reaches: a row that holds it holds no solution.
@@ -78,8 +90,12 @@ void poeNaJanela(Program& p, const SolutionRow& s)
     if (estriboValido(s.IndiceEstribo))
         f.Combo3.Text = lists::estribo[static_cast<std::size_t>(s.IndiceEstribo) - 1];
     selectOption(f.Option3, f.Option5, f.Option6);
+    // The candidate's d' is typed in, so "d' automático" is cleared and the d' box
+    // is in use again.
     f.Text3.Text = Str(s.dLinha);
     f.Check3.Value = 0;
+    f.Text3.Enabled = true;
+    f.Command17.Enabled = true;
     p.SolucaoNoForm = "s";
     p.metodo.Lambda = s.LambdaC1;
     p.memoria.lambda = s.LambdaC1;
@@ -115,7 +131,6 @@ void buscaMelhorSolucao(Program& p)
     limpaLista(p.Form11);
     p.Form11.Rows[0].Option.Value = true;
     botoesDaLista(f, false);
-    f.Check3.Value = 1;
 
     leEntrada(p);
 
@@ -126,7 +141,10 @@ void buscaMelhorSolucao(Program& p)
         in.maxBarsOnDepthFace = p.nMaxAltura;
         if (!p.OutrosCasos.empty())
             in.cases = p.casosDeCarga();
-        const engine::SearchResult r = engine::search(in, p.memoria, p.metodo);
+        const engine::SearchResult r = [&] {
+            BuscaEmCurso busca(p);
+            return engine::search(in, p.memoria, p.metodo);
+        }();
         if (r.candidates > 0 || r.failure) {
             // Every candidate ran as a silent pass of the window: the last one's
             // arrangement and results are what the window holds now.
@@ -136,7 +154,6 @@ void buscaMelhorSolucao(Program& p)
             p.Zera31();
             p.nAltura = static_cast<std::int16_t>(r.lastBarsOnDepthFace);
             p.nBase = r.lastBarsOnWidthFace;
-            p.IndiceEstriboBusca = r.lastStirrupIndex;
         }
         if (r.dLinhaText)
             f.Text3.Text = *r.dLinhaText;
@@ -157,7 +174,6 @@ void buscaMelhorSolucao(Program& p)
         return;
     }
 
-    f.Check3.Value = 0;
     p.MensagensDoCalculo.push_back(
         {DialogRecord::Kind::Notice, "aviso", std::string(engine::kNoArrangement), {}, {}, {}, 0, {}});
     p.dialogs().notice(std::string(engine::kNoArrangement));
@@ -170,27 +186,25 @@ void buscaMelhorSolucao(Program& p)
 
 void Program::Command8_Click()
 {
+    ++CalculosFeitos;
     try {
         buscaMelhorSolucao(*this);
     } catch (const CalcError& e) {
         // A failure of the method ends the whole search; a list of what was found
         // before it would not be the list of this section.
-        Form1.Check3.Value = 0;
-        Solucoes.clear();
-        Ordenadas.clear();
-        NSolucoes = 0;
-        SolucaoAtual = 0;
-        limpaLista(Form11);
-        botoesDaLista(Form1, false);
+        LimpaSolucoes();
         falhaDeCalculo(e.what());
     }
 }
 
-void Program::GuardaValores42()
+void Program::LimpaSolucoes()
 {
-    Solucoes.push_back({metodo.PesoLong, nBase, static_cast<double>(nAltura), IndiceEstriboBusca, metodo.DiamEstribo,
-                        metodo.dLinha, metodo.LambdaC1});
-    NSolucoes = static_cast<double>(Solucoes.size());
+    Solucoes.clear();
+    Ordenadas.clear();
+    NSolucoes = 0;
+    SolucaoAtual = 0;
+    limpaLista(Form11);
+    botoesDaLista(Form1, false);
 }
 
 void Program::EscolheValores43()
@@ -237,7 +251,6 @@ void Program::Command11_Click()
     ValoresnoForm1144();
     if (SolucaoAtual >= 1 && SolucaoAtual <= Form11.RowsShown)
         selecionaLinha(Form11, SolucaoAtual);
-    Form1.Check3.Value = 0;
 }
 
 void Program::Command9_Click() { Form11BotaoMais(); }

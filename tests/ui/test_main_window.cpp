@@ -34,29 +34,11 @@
 
 using namespace pilarix;
 using pilarix::test::botaoComTexto;
+using pilarix::test::Janela;
+using pilarix::test::PastaTemporaria;
 using pilarix::test::Respondedor;
 
 namespace {
-
-// The window over a recording port: questions answered by policy, messages kept.
-struct Janela {
-    PolicyDialogs dialogs;
-    ui::MainWindow w{&dialogs};
-    Program& p = w.program();
-
-    QLineEdit* caixa(const char* nome) { return w.findChild<QLineEdit*>(QString::fromUtf8(nome)); }
-    QPushButton* botao(const char* nome) { return w.findChild<QPushButton*>(QString::fromUtf8(nome)); }
-    QComboBox* lista(const char* nome) { return w.findChild<QComboBox*>(QString::fromUtf8(nome)); }
-    QRadioButton* opcao(const char* nome) { return w.findChild<QRadioButton*>(QString::fromUtf8(nome)); }
-    QAction* acao(const char* nome) { return w.findChild<QAction*>(QString::fromUtf8(nome)); }
-    std::string texto(const char* nome) { return caixa(nome)->text().toStdString(); }
-    void digita(const char* nome, const char* texto)
-    {
-        caixa(nome)->clear();
-        QTest::keyClicks(caixa(nome), QString::fromUtf8(texto));
-    }
-    void clica(const char* nome) { QTest::mouseClick(botao(nome), Qt::LeftButton); }
-};
 
 QColor fundo(QLineEdit* e) { return e->palette().color(QPalette::Active, QPalette::Base); }
 
@@ -71,15 +53,6 @@ void respondePadrao(QWidget* d)
     else if (auto* ok = botaoComTexto(d, QStringLiteral("OK")))
         ok->click();
 }
-
-// Runs the current tree into a temporary folder, so that "Padrão.txt" lands there.
-struct PastaTemporaria {
-    QTemporaryDir dir;
-    QString antes = QDir::currentPath();
-    PastaTemporaria() { QDir::setCurrent(dir.path()); }
-    ~PastaTemporaria() { QDir::setCurrent(antes); }
-    std::string caminho(const char* nome) const { return (dir.path() + QLatin1Char('/') + QString::fromUtf8(nome)).toStdString(); }
-};
 
 } // namespace
 
@@ -125,8 +98,10 @@ TEST(UiCalcula, TypedValuesReachTheCalculationAndItsCorrectionsComeBack)
     j.digita("Text1", "8");    // below the 12 cm least side
     j.digita("Text4", "9");    // more bars than fit on 12 cm
     j.digita("Text16", "-50"); // a tension, only the axial force takes a sign
+    j.digita("Text18", "22,5"); // the Brazilian comma is the decimal point
     j.lista("Combo4")->setCurrentText(QStringLiteral("Tf"));
     j.clica("Command1");
+    EXPECT_DOUBLE_EQ(j.p.Fck, 225) << "22,5 MPa, not 22";
     EXPECT_EQ(j.texto("Text1"), "12");
     EXPECT_EQ(j.texto("Text4"), "2");
     EXPECT_DOUBLE_EQ(j.p.Base, 12);
@@ -348,8 +323,12 @@ TEST(UiArquivos, SaveAsThenOpenGivesBackEveryChangedControl)
     w.findChild<QRadioButton*>(QStringLiteral("Option3"))->setChecked(true);
     w.findChild<QCheckBox*>(QStringLiteral("Check1"))->setChecked(false);
 
+    // The changes since the save are asked about before the file replaces them.
     d.openFileName = d.saveFileName;
+    d.saveChangesAnswer = 2;
     w.findChild<QAction*>(QStringLiteral("mnuItemload"))->trigger();
+    ASSERT_EQ(d.saveChangesQuestions.size(), 1u);
+    EXPECT_NE(d.saveChangesQuestions[0].find("\"projeto.TXT\""), std::string::npos) << d.saveChangesQuestions[0];
     EXPECT_EQ(caixa("Text23")->text(), QStringLiteral("450"));
     EXPECT_EQ(w.findChild<QComboBox*>(QStringLiteral("Combo1"))->currentText(), QStringLiteral("Aço CA-60A"));
     EXPECT_TRUE(w.findChild<QRadioButton*>(QStringLiteral("Option5"))->isChecked());
@@ -362,6 +341,7 @@ TEST(UiArquivos, CancelledOpenStillRecalculatesTheWindowAsItStands)
 {
     PastaTemporaria pasta;
     PolicyDialogs d; // both dialogs cancelled
+    d.saveChangesAnswer = 2;
     ui::MainWindow w(&d);
     w.findChild<QLineEdit*>(QStringLiteral("Text3"))->setText(QStringLiteral("4"));
     w.findChild<QLineEdit*>(QStringLiteral("Text23"))->setText(QStringLiteral("450"));
@@ -417,16 +397,23 @@ TEST(UiDialogosReais, OtherValuesAreKeptAndSetTheLargestDiameters)
     EXPECT_EQ(w.program().Form8.Text2.Text, "1.9");
     }
 
-    // Reopened, it shows what was left in it; closing the window keeps it too.
-    std::string precisao;
-    Respondedor outra([&](QWidget* d) {
-        precisao = d->findChild<QLineEdit*>(QStringLiteral("Text1"))->text().toStdString();
-        d->findChild<QLineEdit*>(QStringLiteral("Text1"))->setText(QStringLiteral("0.01"));
-        d->close();
-    });
-    w.findChild<QAction*>(QStringLiteral("mnuItemPrecisao"))->trigger();
-    EXPECT_EQ(precisao, "0.001");
-    EXPECT_EQ(w.program().Form8.Text1.Text, "0.01");
+    // Reopened, it shows what was left in it; Esc and the close button cancel.
+    for (const bool porEsc : {true, false}) {
+        std::string precisao;
+        Respondedor outra([&](QWidget* d) {
+            precisao = d->findChild<QLineEdit*>(QStringLiteral("Text1"))->text().toStdString();
+            d->findChild<QLineEdit*>(QStringLiteral("Text1"))->setText(QStringLiteral("0.01"));
+            d->findChild<QComboBox*>(QStringLiteral("Combo3"))->setCurrentText(QStringLiteral("40 mm"));
+            if (porEsc)
+                QTest::keyClick(d, Qt::Key_Escape);
+            else
+                d->close();
+        });
+        w.findChild<QAction*>(QStringLiteral("mnuItemPrecisao"))->trigger();
+        EXPECT_EQ(precisao, "0.001");
+        EXPECT_EQ(w.program().Form8.Text1.Text, "0.001") << porEsc;
+        EXPECT_EQ(w.program().Form8.Combo3.Text, "16 mm (5/8'')") << porEsc;
+    }
 }
 
 TEST(UiDialogosReais, DEstimateIsAcceptedIntoTheDBox)
@@ -462,6 +449,22 @@ TEST(UiJanela, TickingAutomaticDTakesTheDBoxAndItsEstimateOutOfUse)
     EXPECT_TRUE(j.botao("Command17")->isEnabled());
 }
 
+TEST(UiJanela, AutomaticDCalculatesFromTheCoverAndShowsEverything)
+{
+    // d' typed as 1 cm would put the bars inside the cover; ticked, the box is not
+    // read: d' comes from the cover and the pass shows its results and messages.
+    Janela j;
+    j.digita("Text3", "1");
+    j.w.findChild<QCheckBox*>(QStringLiteral("Check3"))->click();
+    j.clica("Command1");
+    EXPECT_EQ(j.p.passeDoCalculo(), Program::Passe::Interativo);
+    EXPECT_EQ(j.texto("Text30"), "Ok");
+    EXPECT_EQ(j.texto("Text27"), "φ5 c/15");
+    EXPECT_GT(Val(j.texto("Text3")), 3.0) << "the d' found is shown in its box";
+    EXPECT_TRUE(j.w.desenho()->hasSection());
+    EXPECT_FALSE(j.texto("TextUtilizacao").empty());
+}
+
 // ---- the window itself ----
 
 TEST(UiJanela, MenusHoldTheProgramsItemsInTheirOrder)
@@ -469,20 +472,26 @@ TEST(UiJanela, MenusHoldTheProgramsItemsInTheirOrder)
     Janela j;
     const auto menus = j.w.menuBar()->actions();
     ASSERT_GE(menus.size(), 2);
-    EXPECT_EQ(menus[0]->text(), QStringLiteral("&Arquivo"));
-    EXPECT_EQ(menus[1]->text(), QStringLiteral("&Valores"));
-    // The program's own items keep their order; newer ones may stand between them.
-    auto naOrdem = [](QMenu* menu, const QStringList& esperados) {
+    // The program's own menus and items keep their order; newer ones may stand
+    // between them.
+    auto naOrdem = [](const QList<QAction*>& acoes, const QStringList& esperados) {
         int k = 0;
-        for (auto* a : menu->actions())
+        for (auto* a : acoes)
             if (k < esperados.size() && a->text() == esperados[k])
                 ++k;
         return k == esperados.size();
     };
-    EXPECT_TRUE(naOrdem(menus[0]->menu(), {QStringLiteral("&Abrir arquivo..."), QStringLiteral("Carre&gar valores padrões"),
+    EXPECT_EQ(menus[0]->text(), QStringLiteral("&Arquivo"));
+    EXPECT_TRUE(naOrdem(menus, {QStringLiteral("&Arquivo"), QStringLiteral("&Valores")}));
+    QAction* valores = nullptr;
+    for (auto* m : menus)
+        if (m->text() == QStringLiteral("&Valores"))
+            valores = m;
+    ASSERT_NE(valores, nullptr);
+    EXPECT_TRUE(naOrdem(menus[0]->menu()->actions(), {QStringLiteral("&Abrir arquivo..."), QStringLiteral("Carre&gar valores padrões"),
                                            QStringLiteral("&Salvar como..."), QStringLiteral("Salvar valores como &padrão"),
                                            QStringLiteral("S&obre"), QStringLiteral("Sai&r")}));
-    EXPECT_TRUE(naOrdem(menus[1]->menu(), {QStringLiteral("Outros")}));
+    EXPECT_TRUE(naOrdem(valores->menu()->actions(), {QStringLiteral("Outros")}));
 }
 
 TEST(UiJanela, AccessKeysReachTheirControls)
@@ -533,6 +542,10 @@ TEST(UiJanela, FitsA1366By768Screen)
     // Room is left for the title bar and a task bar.
     EXPECT_LE(j.w.width(), 1366);
     EXPECT_LE(j.w.height(), 768 - 70);
+    // At 150 % the same screen is 910 x 512 of the window's own units: the frames
+    // scroll rather than push the window past it.
+    EXPECT_LE(j.w.minimumSizeHint().width(), 1366 * 2 / 3);
+    EXPECT_LE(j.w.minimumSizeHint().height(), (768 - 70) * 2 / 3);
 }
 
 // ---- the drawing ----

@@ -2,10 +2,22 @@
 // Helpers for driving the window headless: answering the modal dialogs that a
 // calculation opens, and finding controls by the program's names.
 
+#include "ui/main_window.h"
+#include "window/policy_dialogs.h"
+
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 #include <QWidget>
 
@@ -59,6 +71,41 @@ private:
     QTimer timer_;
     QWidget* atual_ = nullptr;
     QElapsedTimer relogio_;
+};
+
+// The window over a recording port: questions answered by policy, messages kept.
+struct Janela {
+    PolicyDialogs dialogs;
+    ui::MainWindow w{&dialogs};
+    Program& p = w.program();
+
+    QLineEdit* caixa(const char* nome) { return w.findChild<QLineEdit*>(QString::fromUtf8(nome)); }
+    QPushButton* botao(const char* nome) { return w.findChild<QPushButton*>(QString::fromUtf8(nome)); }
+    QComboBox* lista(const char* nome) { return w.findChild<QComboBox*>(QString::fromUtf8(nome)); }
+    QRadioButton* opcao(const char* nome) { return w.findChild<QRadioButton*>(QString::fromUtf8(nome)); }
+    QAction* acao(const char* nome) { return w.findChild<QAction*>(QString::fromUtf8(nome)); }
+    std::string texto(const char* nome) { return caixa(nome)->text().toStdString(); }
+    std::string barra() { return w.statusBar()->currentMessage().toStdString(); }
+    void poe(const char* nome, const char* texto) { caixa(nome)->setText(QString::fromUtf8(texto)); }
+    void digita(const char* nome, const char* texto)
+    {
+        caixa(nome)->clear();
+        QTest::keyClicks(caixa(nome), QString::fromUtf8(texto));
+    }
+    void clica(const char* nome) { QTest::mouseClick(botao(nome), Qt::LeftButton); }
+    void aciona(const char* nome) { acao(nome)->trigger(); }
+};
+
+// Runs the current test in a temporary folder, so that "Padrão.txt" lands there.
+struct PastaTemporaria {
+    QTemporaryDir dir;
+    QString antes = QDir::currentPath();
+    PastaTemporaria() { QDir::setCurrent(dir.path()); }
+    ~PastaTemporaria() { QDir::setCurrent(antes); }
+    std::string caminho(const char* nome) const
+    {
+        return (dir.path() + QLatin1Char('/') + QString::fromUtf8(nome)).toStdString();
+    }
 };
 
 // The button of a dialog by its caption ("&2 - Ignorar", "Continuar").

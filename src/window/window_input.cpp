@@ -1,0 +1,324 @@
+#include "window/window_input.h"
+
+#include "base/calc_error.h"
+#include "base/number_text.h"
+
+#include <array>
+#include <cctype>
+#include <cstdlib>
+#include <functional>
+
+namespace pilarix {
+
+namespace {
+
+constexpr unsigned P = 1, R = 2, B = 4; // Projeto, Resultado, Busca
+
+unsigned bit(Alcance a) { return a == Alcance::Projeto ? P : a == Alcance::Resultado ? R : B; }
+
+struct Entrada {
+    std::string nome;
+    unsigned alcances;
+    std::function<std::string(const Program&)> le;
+    std::function<void(Program&, const std::string&)> poe;
+};
+
+template <typename Campo>
+Entrada campo(const char* nome, unsigned alcances, Campo campo)
+{
+    return {nome, alcances, [campo](const Program& p) { return campo(const_cast<Program&>(p)); },
+            [campo](Program& p, const std::string& v) { campo(p) = v; }};
+}
+
+std::string marca(int v) { return std::to_string(v); }
+
+Entrada caixaDeMarcar(const char* nome, unsigned alcances, CheckBox Form1Model::*c)
+{
+    return {nome, alcances, [c](const Program& p) { return marca((p.Form1.*c).Value); },
+            [c](Program& p, const std::string& v) {
+                (p.Form1.*c).Value = v == "1" ? 1 : v == "2" ? 2 : 0;
+                // With d' found from the cover, the d' box and its estimate are out of use.
+                if (c == &Form1Model::Check3) {
+                    p.Form1.Text3.Enabled = !p.Form1.Check3.ticked();
+                    p.Form1.Command17.Enabled = !p.Form1.Check3.ticked();
+                }
+            }};
+}
+
+// A group of options as the name of the one selected ("" when none is).
+Entrada grupo(std::vector<std::pair<std::string, OptionButton Form1Model::*>> opcoes, unsigned alcances)
+{
+    std::string nome;
+    for (const auto& [n, o] : opcoes)
+        nome += (nome.empty() ? "" : "|") + n;
+    return {nome, alcances,
+            [opcoes](const Program& p) {
+                for (const auto& [n, o] : opcoes)
+                    if ((p.Form1.*o).Value)
+                        return n;
+                return std::string();
+            },
+            [opcoes](Program& p, const std::string& v) {
+                for (const auto& [n, o] : opcoes)
+                    (p.Form1.*o).Value = n == v;
+            }};
+}
+
+std::string casos(const Program& p)
+{
+    std::string s = p.NomeDoCaso1;
+    for (const auto& c : p.OutrosCasos)
+        s += "\n" + c.nome + ";" + c.nd + ";" + c.md;
+    return s;
+}
+
+void poeCasos(Program& p, const std::string& s)
+{
+    std::vector<std::string> linhas;
+    std::size_t inicio = 0;
+    for (;;) {
+        const auto fim = s.find('\n', inicio);
+        linhas.push_back(s.substr(inicio, fim - inicio));
+        if (fim == std::string::npos)
+            break;
+        inicio = fim + 1;
+    }
+    p.NomeDoCaso1 = linhas.front();
+    p.OutrosCasos.clear();
+    for (std::size_t i = 1; i < linhas.size(); ++i) {
+        const auto a = linhas[i].find(';');
+        const auto b = linhas[i].find(';', a + 1);
+        p.OutrosCasos.push_back({linhas[i].substr(0, a), linhas[i].substr(a + 1, b - a - 1), linhas[i].substr(b + 1)});
+    }
+}
+
+const std::vector<Entrada>& entradas()
+{
+    using F = Form1Model;
+    static const std::vector<Entrada> tabela = [] {
+        std::vector<Entrada> t;
+        auto texto = [&t](const char* nome, unsigned alcances, TextBox F::*c) {
+            t.push_back(campo(nome, alcances, [c](Program& p) -> std::string& { return (p.Form1.*c).Text; }));
+        };
+        auto lista = [&t](const char* nome, unsigned alcances, ComboBox F::*c) {
+            t.push_back(campo(nome, alcances, [c](Program& p) -> std::string& { return (p.Form1.*c).Text; }));
+        };
+        // "Dimensões"
+        texto("Text1", P | R | B, &F::Text1);
+        texto("Text2", P | R | B, &F::Text2);
+        texto("Text23", P | R | B, &F::Text23);
+        texto("Text31", P, &F::Text31);
+        texto("Text32", P, &F::Text32);
+        // "Arranjo"
+        texto("Text4", P | R, &F::Text4);
+        texto("Text5", P | R, &F::Text5);
+        texto("Text3", P | R, &F::Text3);
+        t.push_back(caixaDeMarcar("Check3", P | R, &F::Check3));
+        // "Esforços e Resistências"
+        texto("Text16", P | R | B, &F::Text16);
+        lista("Combo4", P | R | B, &F::Combo4);
+        texto("Text17", P | R | B, &F::Text17);
+        lista("Combo5", P | R | B, &F::Combo5);
+        texto("Text18", P | R | B, &F::Text18);
+        lista("Combo6", P | R | B, &F::Combo6);
+        texto("Text20", P | R | B, &F::Text20);
+        lista("Combo7", P | R | B, &F::Combo7);
+        texto("Text21", P | R | B, &F::Text21);
+        texto("Text22", P | R | B, &F::Text22);
+        lista("Combo1", P | R | B, &F::Combo1);
+        // "Cobrimento"
+        t.push_back(grupo({{"Option1", &F::Option1}, {"Option2", &F::Option2}}, P | R | B));
+        lista("Combo2", P | R | B, &F::Combo2);
+        t.push_back(caixaDeMarcar("Check1", P | R, &F::Check1));
+        // "Bitola (mm)"
+        t.push_back(caixaDeMarcar("Check2", P | R | B, &F::Check2));
+        t.push_back({"Bitola fixa", P | R | B, [](const Program& p) { return std::to_string(p.BitolaFixa); },
+                     [](Program& p, const std::string& v) { p.BitolaFixa = std::atoi(v.c_str()); }});
+        // "Estribos" and "Ganchos"
+        t.push_back(grupo({{"Option3", &F::Option3}, {"Option5", &F::Option5}, {"Option6", &F::Option6}}, P | R));
+        lista("Combo3", P | R, &F::Combo3);
+        t.push_back(caixaDeMarcar("Check5", P | R | B, &F::Check5));
+        // The hooks are elements of an array: their group reads them by index.
+        t.push_back({"Option7(0)|Option7(1)", P | R,
+                     [](const Program& p) {
+                         return std::string(p.Form1.Option7[0].Value   ? "Option7(0)"
+                                            : p.Form1.Option7[1].Value ? "Option7(1)"
+                                                                       : "");
+                     },
+                     [](Program& p, const std::string& v) {
+                         p.Form1.Option7[0].Value = v == "Option7(0)";
+                         p.Form1.Option7[1].Value = v == "Option7(1)";
+                     }});
+        texto("Text6", P, &F::Text6);
+        // "Outros valores"
+        t.push_back(campo("Form8.Combo1", P | R | B, [](Program& p) -> std::string& { return p.Form8.Combo1.Text; }));
+        t.push_back(campo("Form8.Combo3", P | R | B, [](Program& p) -> std::string& { return p.Form8.Combo3.Text; }));
+        t.push_back(campo("Form8.Text2", P | R | B, [](Program& p) -> std::string& { return p.Form8.Text2.Text; }));
+        t.push_back(campo("Form8.Text1", P | R | B, [](Program& p) -> std::string& { return p.Form8.Text1.Text; }));
+        // The load cases beyond the first are the project's; the window calculates the first.
+        t.push_back({"Casos", P, casos, poeCasos});
+        return t;
+    }();
+    return tabela;
+}
+
+// The value of a box in the program's reading, none where it is no number or one
+// too large for the program.
+std::optional<double> valor(const std::string& texto)
+{
+    if (!numeroCompleto(texto))
+        return std::nullopt;
+    try {
+        return Val(texto);
+    } catch (const CalcError&) {
+        return std::nullopt;
+    }
+}
+
+bool vazia(const std::string& texto)
+{
+    for (const char c : texto)
+        if (!std::isspace(static_cast<unsigned char>(c)))
+            return false;
+    return true;
+}
+
+std::string aspas(const std::string& s) { return "\"" + s + "\""; }
+
+} // namespace
+
+std::vector<std::pair<std::string, std::string>> valoresDaEntrada(const Program& p, Alcance alcance)
+{
+    std::vector<std::pair<std::string, std::string>> v;
+    for (const auto& e : entradas())
+        if (e.alcances & bit(alcance))
+            v.emplace_back(e.nome, e.le(p));
+    return v;
+}
+
+std::string fotoDaEntrada(const Program& p, Alcance alcance)
+{
+    std::string foto;
+    for (const auto& [nome, valor] : valoresDaEntrada(p, alcance))
+        foto += nome + '=' + valor + '\x1f';
+    return foto;
+}
+
+bool restauraEntrada(Program& p, const std::string& nome, const std::string& valor)
+{
+    for (const auto& e : entradas())
+        if (e.nome == nome) {
+            e.poe(p, valor);
+            return true;
+        }
+    return false;
+}
+
+bool numeroCompleto(const std::string& texto)
+{
+    std::size_t i = 0;
+    const std::size_t n = texto.size();
+    auto digito = [&](std::size_t k) { return k < n && std::isdigit(static_cast<unsigned char>(texto[k])); };
+    auto branco = [&](std::size_t k) { return k < n && (texto[k] == ' ' || texto[k] == '\t'); };
+    while (branco(i))
+        ++i;
+    if (i < n && (texto[i] == '-' || texto[i] == '+'))
+        ++i;
+    bool digitos = false;
+    while (digito(i))
+        ++i, digitos = true;
+    if (i < n && texto[i] == '.')
+        for (++i; digito(i); ++i)
+            digitos = true;
+    if (!digitos)
+        return false;
+    if (i < n && (texto[i] == 'e' || texto[i] == 'E')) {
+        ++i;
+        if (i < n && (texto[i] == '-' || texto[i] == '+'))
+            ++i;
+        if (!digito(i))
+            return false;
+        while (digito(i))
+            ++i;
+    }
+    while (branco(i))
+        ++i;
+    return i == n;
+}
+
+std::optional<std::string> conferenciaDaEntrada(const Program& p)
+{
+    const auto& f = p.Form1;
+    struct Exigida {
+        const TextBox* caixa;
+        const char* nome;
+        const char* oQue;
+    };
+    const std::array<Exigida, 11> exigidas{{
+        {&f.Text1, "Base (cm)", "a base b da seção, em cm"},
+        {&f.Text2, "Altura (cm)", "a altura h da seção, em cm"},
+        {&f.Text23, "Comprimento (cm)", "o comprimento do pilar, em cm"},
+        {&f.Text4, "Barras nas faces da base", "o número de barras em cada face de largura b"},
+        {&f.Text5, "Barras nas faces da altura", "o número de barras em cada face de altura h"},
+        {&f.Text16, "Nd", "a força normal de cálculo"},
+        {&f.Text17, "Md", "o momento fletor de cálculo"},
+        {&f.Text18, "Fck", "a resistência característica do concreto"},
+        {&f.Text20, "Es", "o módulo de elasticidade do aço"},
+        {&f.Text21, "γc (coef. do concreto)", "o coeficiente de minoração do concreto"},
+        {&f.Text22, "γs (coef. do aço)", "o coeficiente de minoração do aço"},
+    }};
+    const std::string nada = " Nada foi calculado.";
+    for (const auto& e : exigidas) {
+        if (vazia(e.caixa->Text))
+            return "A caixa " + aspas(e.nome) + " está vazia: digite " + e.oQue + "." + nada;
+        if (!valor(e.caixa->Text))
+            return "A caixa " + aspas(e.nome) + " tem " + aspas(e.caixa->Text) + ", que não é um número: digite "
+                   + e.oQue + "." + nada;
+    }
+    // d' may be left empty: the cover question then corrects it.
+    if (!f.Check3.ticked() && !vazia(f.Text3.Text) && !valor(f.Text3.Text))
+        return "A caixa \"d' (cm)\" tem " + aspas(f.Text3.Text)
+               + ", que não é um número: digite d' em cm, deixe-a vazia ou marque \"d' automático\"." + nada;
+    if (auto m = conferenciaDeOutrosValores(p.Form8.Text1.Text, p.Form8.Text2.Text))
+        return *m + " (Valores > Outros)" + nada;
+    if (auto m = conferenciaDaEscala(f.Text6.Text))
+        return *m + nada;
+    return std::nullopt;
+}
+
+std::optional<std::string> conferenciaDeOutrosValores(const std::string& precisao, const std::string& agregado)
+{
+    const std::string faixa = "maior que 0 e no máximo 0.01 (o padrão é 0.0001)";
+    if (vazia(precisao))
+        return "A precisão está vazia: digite um valor " + faixa + ".";
+    const auto p = valor(precisao);
+    if (!p)
+        return "Precisão = " + aspas(precisao) + " não é um número: digite um valor " + faixa + ".";
+    if (!(*p > 0 && *p <= 0.01))
+        return "Precisão = " + precisao + " está fora do intervalo aceito: " + faixa + ".";
+    if (vazia(agregado))
+        return std::nullopt;
+    const auto a = valor(agregado);
+    if (!a)
+        return "Diâmetro máximo do agregado graúdo = " + aspas(agregado)
+               + " não é um número: digite o diâmetro em cm ou deixe a caixa vazia.";
+    if (!(*a > 0))
+        return "Diâmetro máximo do agregado graúdo = " + agregado
+               + " cm: deve ser maior que zero; deixe a caixa vazia quando o agregado não for dado.";
+    return std::nullopt;
+}
+
+std::optional<std::string> conferenciaDaEscala(const std::string& escala)
+{
+    const std::string oQue = "a escala do desenho exportado, em pixels por centímetro, maior que zero";
+    if (vazia(escala))
+        return "A caixa \"Escala\" está vazia: digite " + oQue + ".";
+    const auto e = valor(escala);
+    if (!e)
+        return "Escala = " + aspas(escala) + " não é um número: digite " + oQue + ".";
+    if (!(*e > 0))
+        return "Escala = " + escala + ": digite " + oQue + ".";
+    return std::nullopt;
+}
+
+} // namespace pilarix
