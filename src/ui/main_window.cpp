@@ -3,6 +3,8 @@
 #include "base/number_text.h"
 #include "engine/catalogue.h"
 #include "render/drawing_export.h"
+#include "render/report_pdf.h"
+#include "ui/cases_dialog.h"
 #include "ui/about_dialog.h"
 #include "ui/d_estimate_dialog.h"
 #include "ui/help_dialog.h"
@@ -424,7 +426,7 @@ void MainWindow::montaMenus()
                             [this] { this->arquivo(&Program::mnuItemSaveDefault_Click); }));
     arquivo->addAction(
         acao(QStringLiteral("&Exportar desenho..."), QStringLiteral("mnuItemExportar"), [this] { exportaDesenho(); }));
-    auto* imprimir = acao(QStringLiteral("&Imprimir memorial..."), QStringLiteral("mnuItemMemorial"),
+    auto* imprimir = acao(QStringLiteral("&Memorial de cálculo (PDF)..."), QStringLiteral("mnuItemMemorial"),
                           [this] { imprimeMemorial(); });
     imprimir->setShortcut(QKeySequence::Print);
     arquivo->addAction(imprimir);
@@ -448,6 +450,8 @@ void MainWindow::montaMenus()
     valores->setObjectName(QStringLiteral("mnuValores"));
     valores->addAction(
         acao(QStringLiteral("Outros"), QStringLiteral("mnuItemPrecisao"), [this] { abreOutrosValores(); }));
+    valores->addAction(acao(QStringLiteral("&Combinações de esforços..."), QStringLiteral("mnuItemCasos"),
+                            [this] { abreCasos(); }));
     valores->addAction(acao(QStringLiteral("&Diagrama de interação"), QStringLiteral("mnuItemDiagrama"),
                             [this] { abreDiagrama(); }));
 
@@ -1523,10 +1527,7 @@ void MainWindow::exportaDesenho()
         return;
     }
     // The project's name, with the drawing's extension in place of its own.
-    std::string proposto = p.NomeArquivo.empty() || p.NomeArquivo == "Padrão.txt" ? "pilar" : p.NomeArquivo;
-    if (const auto ponto = proposto.find_last_of('.'); ponto != std::string::npos && proposto.find('/', ponto) == std::string::npos)
-        proposto.erase(ponto);
-    const std::string nome = dialogos_->askDrawingFileName(proposto + ".dxf");
+    const std::string nome = dialogos_->askDrawingFileName(nomeProposto() + ".dxf");
     if (nome.empty())
         return;
     std::string erro;
@@ -1534,9 +1535,54 @@ void MainWindow::exportaDesenho()
         dialogos_->notice(erro);
 }
 
+// The project's name without its extension, to propose for a drawing or a report.
+std::string MainWindow::nomeProposto() const
+{
+    const auto& p = *program_;
+    std::string proposto = p.NomeArquivo.empty() || p.NomeArquivo == "Padrão.txt" ? "pilar" : p.NomeArquivo;
+    if (const auto ponto = proposto.find_last_of('.');
+        ponto != std::string::npos && proposto.find('/', ponto) == std::string::npos)
+        proposto.erase(ponto);
+    return proposto;
+}
+
 void MainWindow::imprimeMemorial()
 {
-    dialogos_->notice("O memorial de cálculo ainda não está disponível nesta versão do Pilarix.");
+    // A report signs the results on show: results the input no longer matches are
+    // calculated again first, and input that cannot be calculated reports nothing.
+    if (desatualizado_ || program_->Form1.Text30.Text.empty()) {
+        if (!calculaConferido([this] { program_->Command1_Click(); }))
+            return;
+        mostraNaBarra(QStringLiteral("Os resultados foram recalculados para o memorial."));
+    }
+    const std::string nome = dialogos_->askReportFileName(nomeProposto() + ".pdf");
+    if (nome.empty())
+        return;
+    std::string erro;
+    if (render::writeReport(*program_, nome, render::currentStamp(), erro))
+        mostraNaBarra(QStringLiteral("Memorial de cálculo gravado em ") + qs(nome));
+    else
+        dialogos_->notice(erro);
+}
+
+void MainWindow::abreCasos()
+{
+    // The cases table edits Nd and Md of the main window too: it starts from what
+    // the boxes hold, and every change is an edit of the input like a typed one.
+    copiaParaModelo();
+    if (!casos_)
+        casos_ = new CasesDialog(
+            *program_,
+            [this] {
+                atualiza();
+                registraEdicao(QStringLiteral("casos de carga"), false);
+                reavalia();
+            },
+            this);
+    casos_->carrega();
+    casos_->show();
+    casos_->raise();
+    casos_->activateWindow();
 }
 
 namespace {
@@ -1552,7 +1598,14 @@ DiagramData dadosDoDiagrama(const Program& p)
     const double fm = fatorDaUnidade(f.Combo5.Text).value_or(1);
     for (const auto& [n, m] : v.curve)
         d.curve.emplace_back(m / fm, n / fn);
-    d.points.push_back({v.nSd / fn, v.mSd / fm, QStringLiteral("Sd"), v.utilisation, true});
+    if (p.ResultadosDosCasos.empty()) {
+        d.points.push_back({v.nSd / fn, v.mSd / fm, QStringLiteral("Sd"), v.utilisation, true});
+    } else {
+        // Every load case on the governing case's section, γn as the design took it.
+        const double g = p.Resultado ? p.Resultado->design.gammaN : 1;
+        for (const auto& c : p.ResultadosDosCasos)
+            d.points.push_back({c.Nd * g / fn, c.Md * g / fm, qs(c.nome), c.utilizacao, c.governa});
+    }
     if (v.mRd)
         d.mRd = *v.mRd / fm;
     d.nRdMax = v.nRdMax / fn;
@@ -1585,6 +1638,8 @@ void MainWindow::mostraVerificacao()
     avisoVerificacao_->setFont(fonte);
     palAviso.setColor(QPalette::WindowText, desatualizado_ ? kLetraDesatualizada : QColor(205, 30, 30));
     avisoVerificacao_->setPalette(palAviso);
+    if (casos_ && casos_->isVisible())
+        casos_->carrega();
     if (diagrama_ && diagrama_->isVisible()) {
         if (v)
             diagrama_->mostra(dadosDoDiagrama(*program_));

@@ -48,6 +48,7 @@ class OtherValuesDialog;
 class DEstimateDialog;
 class SolutionsDialog;
 class InteractionDialog;
+class CasesDialog;
 class HelpDialog;
 
 class MainWindow : public QMainWindow {
@@ -107,6 +108,7 @@ public slots:
     void abreAjuda();
     void exportaDesenho();
     void abreDiagrama();
+    void abreCasos();
     // Ctrl+P: the calculation report.
     void imprimeMemorial();
 
@@ -196,6 +198,8 @@ private:
     QPointer<DEstimateDialog> estimativa_;
     QPointer<SolutionsDialog> solucoes_;
     QPointer<InteractionDialog> diagrama_;
+    QPointer<CasesDialog> casos_;
+    std::string nomeProposto() const;
     QPointer<HelpDialog> ajuda_;
     QLineEdit* utilizacao_ = nullptr;
     QLabel* avisoVerificacao_ = nullptr;

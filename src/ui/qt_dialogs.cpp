@@ -112,4 +112,16 @@ std::string QtDialogs::askDrawingFileName(const std::string& proposed)
     return d.selectedFiles().constFirst().toStdString();
 }
 
+std::string QtDialogs::askReportFileName(const std::string& proposed)
+{
+    QFileDialog d(parent_, QStringLiteral("Memorial de cálculo"), QString::fromStdString(proposed),
+                  QStringLiteral("Memorial de cálculo (*.pdf)"));
+    d.setAcceptMode(QFileDialog::AcceptSave);
+    d.setFileMode(QFileDialog::AnyFile);
+    d.setDefaultSuffix(QStringLiteral("pdf"));
+    if (d.exec() != QDialog::Accepted || d.selectedFiles().isEmpty())
+        return {};
+    return d.selectedFiles().constFirst().toStdString();
+}
+
 } // namespace pilarix::ui

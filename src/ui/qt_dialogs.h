@@ -34,6 +34,7 @@ public:
     std::string askOpenFileName() override;
     std::string askSaveFileName() override;
     std::string askDrawingFileName(const std::string& proposed) override;
+    std::string askReportFileName(const std::string& proposed) override;
     int askSaveChanges(const std::string& question) override;
 
 private:

@@ -38,6 +38,9 @@ public:
     // empty when cancelled.
     virtual std::string askDrawingFileName(const std::string& proposed) = 0;
 
+    // Where to save the calculation report (.pdf), proposing a name; empty when cancelled.
+    virtual std::string askReportFileName(const std::string& proposed) = 0;
+
     // Before the window closes, opens a project or starts anew over input that was
     // not saved: 1 saves it first, 2 discards it, 0 cancels what was asked.
     virtual int askSaveChanges(const std::string& question) = 0;

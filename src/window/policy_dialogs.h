@@ -16,7 +16,7 @@ class PolicyDialogs : public DialogPort {
 public:
     int coverAnswer = 1;   // 1: the first button, 2: "&2 - Ignorar"
     int stirrupOption = 4; // element of Option1 chosen in "Escolha dos estribos"
-    std::string openFileName, saveFileName, drawingFileName; // empty: the file dialogs are cancelled
+    std::string openFileName, saveFileName, drawingFileName, reportFileName; // empty: the dialogs are cancelled
     std::vector<DialogRecord> records;
     int saveChangesAnswer = 0; // 1 save, 2 discard, 0 cancel
     std::vector<std::string> saveChangesQuestions;
@@ -30,6 +30,7 @@ public:
     std::string askOpenFileName() override { return openFileName; }
     std::string askSaveFileName() override { return saveFileName; }
     std::string askDrawingFileName(const std::string&) override { return drawingFileName; }
+    std::string askReportFileName(const std::string&) override { return reportFileName; }
     int askSaveChanges(const std::string& question) override
     {
         saveChangesQuestions.push_back(question);

@@ -72,3 +72,44 @@ TEST(UiCasos, AfterACalculationEachCaseShowsItsResultsAndTheGoverningOne)
     EXPECT_EQ(t->item(1, 3)->text(), QStringLiteral("2 (C)"));
     EXPECT_TRUE(t->item(2, 6)->text().endsWith(QStringLiteral("%")));
 }
+
+// ---- in the main window ----
+
+#include "ui/interaction_dialog.h"
+#include "ui/interaction_plot.h"
+#include "ui/main_window.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+
+TEST(UiCasos, TheWindowCalculatesEveryCaseAndTheDiagramShowsThemAll)
+{
+    PolicyDialogs d;
+    ui::MainWindow w(&d);
+    w.show();
+    w.findChild<QLineEdit*>(QStringLiteral("Text3"))->setText(QStringLiteral("4"));
+    w.findChild<QAction*>(QStringLiteral("mnuItemCasos"))->trigger();
+    auto* dialogo = w.findChild<ui::CasesDialog*>(QStringLiteral("frmCasos"));
+    ASSERT_NE(dialogo, nullptr);
+    ASSERT_TRUE(dialogo->cola(QStringLiteral("vento\t200\t15000\nbase\t600\t4000")));
+    EXPECT_TRUE(w.windowTitle().endsWith(QStringLiteral("*"))) << "the cases are part of the project";
+
+    w.findChild<QPushButton*>(QStringLiteral("Command1"))->click();
+    EXPECT_EQ(w.findChild<QLineEdit*>(QStringLiteral("Text30"))->text(), QStringLiteral("Ok"));
+    EXPECT_TRUE(dialogo->tabela()->item(1, 0)->font().bold()) << "the governing case, shown as the table reloads";
+
+    w.findChild<QPushButton*>(QStringLiteral("cmdDiagrama"))->click();
+    auto* diagrama = w.findChild<ui::InteractionDialog*>(QStringLiteral("frmDiagrama"));
+    ASSERT_NE(diagrama, nullptr);
+    ASSERT_EQ(diagrama->grafico()->data().points.size(), 3u);
+    EXPECT_TRUE(diagrama->grafico()->data().points[1].governing);
+
+    if (const char* png = std::getenv("PILARIX_CASOS_PNG")) {
+        dialogo->raise();
+        QApplication::processEvents();
+        dialogo->grab().save(QString::fromUtf8(png));
+        diagrama->grab().save(QString::fromUtf8(png) + QStringLiteral(".diagrama.png"));
+    }
+}

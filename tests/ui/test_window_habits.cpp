@@ -14,6 +14,9 @@
 #include <QTextBrowser>
 #include <QUndoStack>
 
+#include <QFileInfo>
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
 using namespace pilarix;
@@ -356,8 +359,15 @@ TEST(UiJanela, TabGoesFromBoxToBoxEnterCalculatesF1AndCtrlPAnswer)
     QTest::keyClick(j.caixa("Text16"), Qt::Key_Return);
     EXPECT_FALSE(j.w.desatualizado());
     EXPECT_DOUBLE_EQ(j.p.Nd, 50000);
+    // The report of results that no longer match the input: calculated again first.
+    QTemporaryDir pasta;
+    j.dialogs.reportFileName = pasta.filePath(QStringLiteral("pilar.pdf")).toStdString();
+    j.poe("Text16", "600");
+    ASSERT_TRUE(j.w.desatualizado());
     j.aciona("mnuItemMemorial");
-    EXPECT_EQ(j.dialogs.lastMessage(), "O memorial de cálculo ainda não está disponível nesta versão do Pilarix.");
+    EXPECT_FALSE(j.w.desatualizado());
+    EXPECT_DOUBLE_EQ(j.p.Nd, 60000);
+    EXPECT_TRUE(QFileInfo::exists(pasta.filePath(QStringLiteral("pilar.pdf"))));
     j.aciona("mnuItemAjuda");
     auto* ajuda = j.w.findChild<QDialog*>(QStringLiteral("frmAjuda"));
     ASSERT_NE(ajuda, nullptr);
