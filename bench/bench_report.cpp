@@ -9,30 +9,14 @@
 
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
 
 #include <benchmark/benchmark.h>
-
-#include <memory>
 
 namespace {
 
 using namespace pilarix;
 
 const report::ReportStamp kStamp{"01/02/2025 08:30", std::string(report::programVersion())};
-
-// The PDF's text needs a Qt application, made once, without a screen.
-void ensureApplication()
-{
-    static std::unique_ptr<QGuiApplication> app;
-    if (!app) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        static int argc = 1;
-        static char name[] = "pilarix_bench";
-        static char* argv[] = {name, nullptr};
-        app = std::make_unique<QGuiApplication>(argc, argv);
-    }
-}
 
 void BM_Memorial_Dados(benchmark::State& state)
 {
@@ -50,7 +34,6 @@ BENCHMARK(BM_Memorial_Dados)->Unit(benchmark::kMicrosecond);
 
 void BM_Memorial_Pdf(benchmark::State& state)
 {
-    ensureApplication();
     PolicyDialogs dialogs;
     Program p(dialogs);
     p.Command1_Click();
@@ -69,7 +52,6 @@ BENCHMARK(BM_Memorial_Pdf)->Unit(benchmark::kMillisecond);
 
 void BM_Memorial_Arquivo(benchmark::State& state)
 {
-    ensureApplication();
     PolicyDialogs dialogs;
     Program p(dialogs);
     p.Command1_Click();
