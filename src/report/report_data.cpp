@@ -239,8 +239,14 @@ void inputSection(const Program& p, const engine::ColumnResult& r, const Solutio
     const std::string tolerance = in.deltaC == 1     ? withoutAccessKey(f.Option1.Caption)
                                   : in.deltaC == 0.5 ? withoutAccessKey(f.Option2.Caption)
                                                      : std::string();
-    w.line("Diâmetro máximo do agregado graúdo", Str(in.aggregate), "cm")
-        .line("Classe de agressividade ambiental", lists::agressividade.at(static_cast<std::size_t>(in.exposure) - 1))
+    // Left empty in "Outros valores", the aggregate counts as 0: the cover and spacing
+    // rules that depend on it then give way to the bar's, and the report says why.
+    if (in.aggregate > 0)
+        w.line("Diâmetro máximo do agregado graúdo", Str(in.aggregate), "cm");
+    else
+        w.line("Diâmetro máximo do agregado graúdo", "não informado", "",
+               "as regras de cobrimento e espaçamento que dependem dele não se aplicam");
+    w.line("Classe de agressividade ambiental", lists::agressividade.at(static_cast<std::size_t>(in.exposure) - 1))
         .line("Tolerância de execução do cobrimento Δc", Str(in.deltaC), "cm", tolerance)
         .line("Correção do cobrimento", in.correctCoverWithoutAsking ? "sem perguntar" : "perguntando a cada caso")
         .line("Precisão", Str(in.precision))
