@@ -275,6 +275,15 @@ std::optional<std::string> conferenciaDaEntrada(const Program& p)
             return "A caixa " + aspas(e.nome) + " tem " + aspas(e.caixa->Text) + ", que não é um número: digite "
                    + e.oQue + "." + nada;
     }
+    // A rectangular column has a bar in each corner, so each face holds two bars at
+    // least; with fewer the spacing along the face has nothing to divide by. The
+    // calculation's own correction only lowers a count that does not fit.
+    for (const auto& [caixa, nome] : {std::pair{&f.Text4, "Barras nas faces da base"},
+                                      std::pair{&f.Text5, "Barras nas faces da altura"}})
+        if (*valor(caixa->Text) < 2)
+            return "A caixa " + aspas(nome) + " tem " + caixa->Text
+                   + ": cada face precisa de pelo menos 2 barras, uma em cada canto da seção (item 18.4.2.2)."
+                   + nada;
     // d' may be left empty: the cover question then corrects it.
     if (!f.Check3.ticked() && !vazia(f.Text3.Text) && !valor(f.Text3.Text))
         return "A caixa \"d' (cm)\" tem " + aspas(f.Text3.Text)

@@ -131,6 +131,8 @@ TEST(UiEntrada, AnEmptyOrWrongBoxIsNamedAndNothingIsCalculated)
         {"Text20", "", "A caixa \"Es\" está vazia"},
         {"Text21", "", "A caixa \"γc (coef. do concreto)\" está vazia"},
         {"Text22", "", "A caixa \"γs (coef. do aço)\" está vazia"},
+        {"Text4", "1", "A caixa \"Barras nas faces da base\" tem 1: cada face precisa de pelo menos 2 barras"},
+        {"Text5", "0", "A caixa \"Barras nas faces da altura\" tem 0: cada face precisa de pelo menos 2 barras"},
         {"Text16", "-", "A caixa \"Nd\" tem \"-\", que não é um número"},
         {"Text18", ".", "A caixa \"Fck\" tem \".\", que não é um número"},
         {"Text6", "0", "Escala = 0: digite a escala"},
