@@ -8,6 +8,26 @@
 #include "render/report_pdf.h"
 
 #include <QGuiApplication>
+
+namespace {
+
+QtMessageHandler qtDefaultHandler = nullptr;
+
+// The command line's standard error carries its own messages, which scripts read.
+// Qt's note that a session without a desktop has no runtime folder (it takes one
+// under /tmp) says nothing about the run, so it is left out; every other Qt message
+// goes through as Qt would print it.
+void quietAboutTheRuntimeFolder(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (type == QtWarningMsg && message.startsWith(QStringLiteral("QStandardPaths: XDG_RUNTIME_DIR")))
+        return;
+    if (qtDefaultHandler)
+        qtDefaultHandler(type, context, message);
+    else
+        std::cerr << message.toStdString() << '\n';
+}
+
+} // namespace
 #endif
 
 int main(int argc, char** argv)
@@ -21,6 +41,7 @@ int main(int argc, char** argv)
     const auto ensureApp = [&app] {
         if (!app) {
             qputenv("QT_QPA_PLATFORM", "offscreen");
+            qtDefaultHandler = qInstallMessageHandler(quietAboutTheRuntimeFolder);
             static int qtArgc = 1;
             static char name[] = "pilarix-cli";
             static char* qtArgv[] = {name, nullptr};
