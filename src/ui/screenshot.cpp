@@ -44,7 +44,8 @@ int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto, QSize
             return 2;
         }
     }
-    janela.executa([&] { janela.program().Command1_Click(); });
+    // As "&Calcula" does: an input the window refuses is refused here too.
+    janela.calcula();
     contaOsDialogos(respostas);
     if (tela.isValid()) {
         // Pixels of the screen are device pixels: the window's own size is that
