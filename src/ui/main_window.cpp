@@ -1108,7 +1108,7 @@ bool MainWindow::entradaConfere()
     form.Label1.Caption = *problema;
     form.Label2.Caption.clear();
     dialogos_->showError(form);
-    mostraNaBarra(QStringLiteral("Nada foi calculado: ") + qs(*problema));
+    mostraNaBarra(qs(*problema)); // the message already says that nothing was calculated
     return false;
 }
 

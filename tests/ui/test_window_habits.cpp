@@ -147,6 +147,7 @@ TEST(UiEntrada, AnEmptyOrWrongBoxIsNamedAndNothingIsCalculated)
         EXPECT_EQ(j.p.CalculosFeitos, calculos) << r.caixa;
         ASSERT_EQ(j.dialogs.records.size(), registros + 1) << r.caixa;
         EXPECT_EQ(j.dialogs.lastMessage().rfind(r.mensagem, 0), 0u) << j.dialogs.lastMessage();
+        EXPECT_EQ(j.barra(), j.dialogs.lastMessage()) << "the status bar says it once, as the dialog did";
         EXPECT_EQ(j.texto(r.caixa), r.valor) << "the box is not corrected behind the user's back";
         EXPECT_EQ(j.texto("Text10"), "6.57") << "the last result stays, out of date";
         EXPECT_EQ(j.w.desatualizado(), std::string(r.caixa) != "Text6") << "the scale is the export's alone";
