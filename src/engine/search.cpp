@@ -64,22 +64,24 @@ SearchResult search(const SearchInput& input, Memory& memory, MethodState& state
     try {
         for (double na = 2; na <= input.maxBarsOnDepthFace; ++na) {
             for (double nb = 2; nb <= input.maxBarsOnWidthFace; ++nb) {
+                column.barsOnDepthFace = CInt16(na, "número de barras na altura");
+                column.barsOnWidthFace = nb;
+                // The governing case depends on the bars, not on the stirrup: it is
+                // found once for the stirrups tried with them.
+                const bool severalCases = input.cases.size() >= 2;
+                ColumnInput tried = column;
+                if (severalCases) {
+                    const LoadCase& g = governingCase(column, input.cases);
+                    tried.Nd = g.Nd;
+                    tried.Md = g.Md;
+                }
                 for (double s = 1; s <= sMax; ++s) {
-                    column.barsOnDepthFace = CInt16(na, "número de barras na altura");
-                    column.barsOnWidthFace = nb;
                     r.lastBarsOnDepthFace = column.barsOnDepthFace;
                     r.lastBarsOnWidthFace = nb;
                     r.lastStirrupIndex = static_cast<int>(s);
                     r.last.reset();
                     const Bar& stirrup = bar(static_cast<int>(s));
-                    const bool severalCases = input.cases.size() >= 2;
-                    ColumnInput tried = column;
                     Memory fresh;
-                    if (severalCases) {
-                        const LoadCase& g = governingCase(column, input.cases);
-                        tried.Nd = g.Nd;
-                        tried.Md = g.Md;
-                    }
                     ColumnResult c = calculateCandidate(tried, {stirrup.diameter, stirrup.mass},
                                                         severalCases ? fresh : memory, state);
                     if (c.passedSearch && severalCases && !carriesEveryCase(tried, state, input.cases))
