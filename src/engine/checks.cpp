@@ -45,7 +45,19 @@ std::string_view clauseOf(CheckId id)
     case CheckId::AreaByStrainCompatibility:
     case CheckId::BeyondAnyArrangement:
     case CheckId::CaseNotCarried:
+    case CheckId::SectionNotCarried:
         return kItemUltimateStrains;
+    case CheckId::FinalCoverBelowNominal:
+        return kItemCover;
+    case CheckId::FinalCoverBelowBar:
+        return kItemBarCover;
+    case CheckId::FinalBarAboveEighthOfSide:
+        return kItemBarDiameter;
+    case CheckId::FinalStirrupTooThin:
+    case CheckId::FinalStirrupSpacing:
+        return kItemStirrup;
+    case CheckId::MomentAsMagnitude:
+        return {};
     case CheckId::CoverBelowNominal:
         return kItemCover;
     case CheckId::CoverBelowBarDiameter:
@@ -194,6 +206,76 @@ Check caseNotCarried(const std::string& name, double nSd, double mSd, double uti
                                              + " kN.m, já multiplicados por γn) não é resistido pela seção detalhada: "
                                                "utilização de "
                                              + u + ".");
+}
+
+Check sectionNotCarried(double utilisation, std::optional<double> asCompat, std::optional<MethodOk> methodOk)
+{
+    std::string t = std::isfinite(utilisation)
+                        ? "A seção detalhada resiste a " + Format(100 / utilisation, "##0") + " % dos esforços"
+                        : "A seção detalhada não resiste aos esforços";
+    t += " (utilização de " + (std::isfinite(utilisation) ? Format(100 * utilisation, "##0.0") + " %" : "sem limite")
+         + ")";
+    if (asCompat)
+        t += "; por compatibilidade de deformações são necessários " + Format(*asCompat, "##0.00") + " cm²";
+    else
+        t += "; nenhuma armadura com este arranjo resiste a eles";
+    t += ".";
+    if (methodOk)
+        t += " Pelo método das zonas de solicitação, sozinho, o resultado seria \"Ok\" (As,nec = "
+             + Format(methodOk->asNec, "##0.00") + " cm², As,ef = " + Format(methodOk->asReal, "##0.00")
+             + " cm²): a verificação por compatibilidade de deformações prevalece.";
+    return make(CheckId::SectionNotCarried, t);
+}
+
+Check sectionNotVerified(const std::string& reason)
+{
+    return make(CheckId::SectionNotCarried,
+                "A seção detalhada não pôde ser verificada por compatibilidade de deformações: " + reason);
+}
+
+Check finalCoverBelowNominal(double cover, double nominalCover, double barDiameter, double stirrupDiameter)
+{
+    return make(CheckId::FinalCoverBelowNominal,
+                "Arranjo final: com a barra de " + Str(10 * barDiameter) + " mm e o estribo de "
+                    + Str(10 * stirrupDiameter) + " mm o cobrimento efetivo é de " + Format(cover, "##0.000")
+                    + " cm, menor que o cobrimento nominal = " + Str(nominalCover) + " cm.");
+}
+
+Check finalCoverBelowBar(double barCover, double barDiameter)
+{
+    return make(CheckId::FinalCoverBelowBar, "Arranjo final: o cobrimento das barras longitudinais é de "
+                                                 + Format(barCover, "##0.000") + " cm, menor que o diâmetro da barra = "
+                                                 + Str(barDiameter) + " cm.");
+}
+
+Check finalBarAboveEighthOfSide(double barDiameter, double smallerSide)
+{
+    return make(CheckId::FinalBarAboveEighthOfSide, "Arranjo final: a barra longitudinal de " + Str(barDiameter)
+                                                        + " cm excede 1/8 da menor dimensão = "
+                                                        + Str(smallerSide / 8) + " cm.");
+}
+
+Check finalStirrupTooThin(double stirrupDiameter, double minimumDiameter, double barDiameter)
+{
+    return make(CheckId::FinalStirrupTooThin,
+                "Arranjo final: o estribo de " + Str(10 * stirrupDiameter) + " mm é mais fino que o mínimo de "
+                    + Str(10 * minimumDiameter) + " mm para a barra longitudinal de " + Str(10 * barDiameter)
+                    + " mm.");
+}
+
+Check finalStirrupSpacing(double spacing, double maximum, double barDiameter)
+{
+    return make(CheckId::FinalStirrupSpacing, "Arranjo final: o espaçamento dos estribos, " + Str(spacing)
+                                                  + " cm, excede o máximo de " + Str(maximum)
+                                                  + " cm para a barra longitudinal de " + Str(10 * barDiameter)
+                                                  + " mm.");
+}
+
+Check momentAsMagnitude(double md)
+{
+    return make(CheckId::MomentAsMagnitude,
+                "O momento fletor foi dado negativo (Md = " + Str(md / 100)
+                    + " kN.cm). A seção é simétrica: foi dimensionada para o seu valor absoluto.");
 }
 
 Check coverAggregate(double nominalCover, double aggregate)

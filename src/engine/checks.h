@@ -6,6 +6,7 @@
 //   clauseOf(id)      the clause of a rule ("" where the message names none)
 //   the functions below compose each message from its numbers, as the program words it.
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -40,6 +41,15 @@ enum class CheckId {
     BeyondAnyArrangement,
     // load cases
     CaseNotCarried,
+    // the verdict: the detailed section under its forces, the final arrangement
+    SectionNotCarried,
+    FinalCoverBelowNominal,
+    FinalCoverBelowBar,
+    FinalBarAboveEighthOfSide,
+    FinalStirrupTooThin,
+    FinalStirrupSpacing,
+    // input taken otherwise than typed
+    MomentAsMagnitude,
     // cover (questions)
     CoverAggregate,
     CoverBelowNominal,
@@ -84,6 +94,24 @@ Check beyondAnyArrangement(double nSd, double mSd);
 // A load case the detailed section does not carry: its name, its design forces (kgf,
 // kgf·cm, γn included) and its utilisation (a fraction).
 Check caseNotCarried(const std::string& name, double nSd, double mSd, double utilisation);
+// The detailed section does not carry its design forces: its utilisation (a
+// fraction, +∞ when unbounded), the area strain compatibility asks of the same
+// layout (none when no amount does), and, where the method's own checks all passed,
+// the areas it found and provided (cm²), so that the engineer sees why the two differ.
+struct MethodOk {
+    double asNec = 0, asReal = 0;
+};
+Check sectionNotCarried(double utilisation, std::optional<double> asCompat, std::optional<MethodOk> methodOk);
+// The detailed section could not be built for strain compatibility (the reason).
+Check sectionNotVerified(const std::string& reason);
+// The final arrangement (cm): effective cover, nominal cover, bar and stirrup.
+Check finalCoverBelowNominal(double cover, double nominalCover, double barDiameter, double stirrupDiameter);
+Check finalCoverBelowBar(double barCover, double barDiameter);
+Check finalBarAboveEighthOfSide(double barDiameter, double smallerSide);
+Check finalStirrupTooThin(double stirrupDiameter, double minimumDiameter, double barDiameter);
+Check finalStirrupSpacing(double spacing, double maximum, double barDiameter);
+// A negative moment (kgf·cm, γn not included) designed by its magnitude.
+Check momentAsMagnitude(double md);
 Check coverAggregate(double nominalCover, double aggregate);
 Check coverBelowNominal(double effectiveCover, double nominalCover);
 Check coverBelowBarDiameter(double barCover, double barDiameter);

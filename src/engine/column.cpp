@@ -6,6 +6,7 @@
 
 #include "engine/column.h"
 
+#include "engine/arrangement_check.h"
 #include "engine/bar_choice.h"
 #include "engine/catalogue.h"
 #include "engine/cover.h"
@@ -20,6 +21,8 @@
 #include "base/calc_error.h"
 #include "base/number_text.h"
 
+#include <algorithm>
+#include <cmath>
 #include <string>
 #include <utility>
 
@@ -31,7 +34,10 @@ std::string dLinhaText(double d)
     return Str(Int(d)) + "." + Str(Int(f * 100000 * 10000 + 0.5) / 10000);
 }
 
-bool ColumnResult::ok() const { return !failure && detailed && flag == ErrorFlag::None; }
+bool ColumnResult::ok() const
+{
+    return !failure && detailed && flag == ErrorFlag::None && carried && arrangementFailures == 0;
+}
 
 namespace {
 
@@ -77,6 +83,11 @@ private:
     void checkSpacing(ColumnResult& r);
     void markTies();
     void finish(ColumnResult& r);
+    // The verdict beyond the method's checks: the final arrangement as built, and the
+    // detailed section under the design forces by strain compatibility.
+    std::vector<Check> recheck() const;
+    void checkFinalArrangement(ColumnResult& r);
+    void checkCarried(ColumnResult& r);
 
     const ColumnInput& in_;
     MethodState& s;
@@ -90,6 +101,7 @@ private:
     std::optional<double> correctedDLinha_; // the same, found from the cover
     std::optional<std::pair<double, double>> stirrupForText_;
     bool barTooSmall_ = false;
+    bool barRechosen_ = false; // the minimum steel asked for a thicker bar after the cover stage
     StirrupRules rules_;
 };
 
@@ -496,6 +508,7 @@ void Passes::limitSteel(ColumnResult& r)
             // The 1/8 rule is not checked again. Not a message: it tells that the bar
             // was chosen again, and clears an earlier failure.
             takeBar(r, *b);
+            barRechosen_ = true;
             s.MensagemErro = "voltar";
             s.FlagErro = ErrorFlag::None;
         } else {
@@ -579,6 +592,8 @@ void Passes::run(ColumnResult& r)
             s.PesoLong = s.NBarrasTotal * s.PesoLinearLong * in_.length / 100;
             check("Peso29");
             finish(r);
+            checkFinalArrangement(r);
+            checkCarried(r);
             return;
         }
 
@@ -598,7 +613,7 @@ void Passes::run(ColumnResult& r)
             markTies();
             s.PesoLong = s.NBarrasTotal * s.PesoLinearLong * in_.length / 100;
             check("Peso29");
-            r.passedSearch = true;
+            r.passedSearch = recheck().empty();
         }
         return;
     }
@@ -637,6 +652,99 @@ void Passes::finish(ColumnResult& r)
         d.tiesAcrossDepth.push_back(s.SupV(j) == TieFlag::Tie);
     r.geometry = sectionGeometry(d);
     check("Desenha35");
+}
+
+std::vector<Check> Passes::recheck() const
+{
+    FinalArrangement a;
+    a.base = in_.base;
+    a.depth = in_.depth;
+    a.dLinha = s.dLinha;
+    a.barsOnWidthFace = in_.barsOnWidthFace;
+    a.barsOnDepthFace = in_.barsOnDepthFace;
+    a.barDiameter = s.DiamLong;
+    a.stirrupDiameter = s.DiamEstribo;
+    a.stirrupSpacing = s.EspEstribo;
+    a.nominalCover = s.CobNominal;
+    a.aggregate = in_.aggregate;
+    a.steel = in_.steel;
+    // A thinner stirrup at its own spacing is the same-steel rule: ticked, or chosen
+    // by the engineer in "Escolha dos estribos", which offers it on that condition.
+    a.stirrupsOfBarSteel =
+        in_.stirrupsOfBarSteel || (!silent() && in_.stirrupMode == StirrupMode::Manual);
+    return recheckArrangement(a);
+}
+
+namespace {
+// The check of the passes that stands for the same rule of the final arrangement.
+std::optional<CheckId> ruleOfThePasses(CheckId id)
+{
+    switch (id) {
+    case CheckId::FinalCoverBelowNominal:
+        return CheckId::CoverBelowNominal;
+    case CheckId::FinalCoverBelowBar:
+        return CheckId::CoverBelowBarDiameter;
+    case CheckId::FinalBarAboveEighthOfSide:
+        return CheckId::BarAboveEighthOfSide;
+    default:
+        return std::nullopt;
+    }
+}
+
+bool isSpacingRule(CheckId id)
+{
+    return id == CheckId::FreeSpacingWidth || id == CheckId::FreeSpacingDepth || id == CheckId::AxisSpacingWidth
+           || id == CheckId::AxisSpacingDepth;
+}
+} // namespace
+
+// A rule the passes already told about the same bar is not told twice; one they
+// checked with the bar the minimum steel later replaced is told again, for the bar
+// that is built. The spacing is always checked with the final bar.
+void Passes::checkFinalArrangement(ColumnResult& r)
+{
+    for (const Check& c : recheck()) {
+        const auto same = isSpacingRule(c.id) ? std::optional<CheckId>(c.id) : ruleOfThePasses(c.id);
+        const bool told = same && (isSpacingRule(c.id) || !barRechosen_)
+                          && std::any_of(r.checks.begin(), r.checks.end(), [&](const Check& k) { return k.id == *same; });
+        ++r.arrangementFailures;
+        if (told)
+            continue;
+        r.checks.push_back(c);
+        questions_->tell(r.checks.back());
+    }
+}
+
+// Strain compatibility of the detailed section under the forces it was designed
+// for: the verdict holds only where it carries them.
+void Passes::checkCarried(ColumnResult& r)
+{
+    const double nSd = in_.Nd * s.GamaN;
+    const double mSd = in_.Md * s.GamaN;
+    try {
+        const Concrete concrete = designConcrete(in_.fck, in_.gammaC);
+        const ReinforcedSection detailed = rectangularColumn(in_.base, in_.depth, s.dLinha, in_.barsOnWidthFace,
+                                                             in_.barsOnDepthFace, s.AsBarra, concrete, steel_);
+        r.utilisation = utilisation(detailed, nSd, mSd).ratio;
+        if (r.utilisation <= 1) {
+            startFloatingPointWatch();
+            return;
+        }
+        const ReinforcedSection layout = rectangularColumn(in_.base, in_.depth, s.dLinha, in_.barsOnWidthFace,
+                                                           in_.barsOnDepthFace, 1.0, concrete, steel_);
+        const std::optional<double> asCompat = requiredSteelArea(layout, nSd, mSd);
+        std::optional<checks::MethodOk> methodOk;
+        if (s.FlagErro == ErrorFlag::None)
+            methodOk = checks::MethodOk{s.AsNec, s.AsReal};
+        r.checks.push_back(checks::sectionNotCarried(r.utilisation, asCompat, methodOk));
+    } catch (const CalcError& e) {
+        r.checks.push_back(checks::sectionNotVerified(e.what()));
+    }
+    r.carried = false;
+    questions_->tell(r.checks.back());
+    // Strain compatibility's own arithmetic is not the method's: its faults are not
+    // the calculation's.
+    startFloatingPointWatch();
 }
 
 // The results of the calculation as its variables hold them.
@@ -682,10 +790,21 @@ void collect(const MethodState& s, ColumnResult& r, const ColumnInput& in)
     r.steelWeight = s.PesoLong;
 }
 
-ColumnResult run(const ColumnInput& in, Questions* questions, Memory& memory, MethodState& s,
+ColumnResult run(const ColumnInput& given, Questions* questions, Memory& memory, MethodState& s,
                  const CandidateStirrup* candidate, bool designOnly = false)
 {
     ColumnResult r;
+    // The section is symmetric about both axes: a moment of either sign needs the
+    // same steel, and the method is written for a positive one.
+    ColumnInput in = given;
+    if (in.Md < 0) {
+        in.Md = -in.Md;
+        r.momentAsMagnitude = true;
+        if (questions && !candidate && !designOnly) {
+            r.checks.push_back(checks::momentAsMagnitude(given.Md));
+            questions->tell(r.checks.back());
+        }
+    }
     // What the method carries from the calculation before.
     s.Mi0 = memory.mu0;
     s.Lambda = memory.lambda;

@@ -25,6 +25,7 @@
 #include "engine/options.h"
 #include "engine/questions.h"
 
+#include <cmath>
 #include <optional>
 #include <string>
 #include <vector>
@@ -144,8 +145,19 @@ struct ColumnResult {
     std::optional<std::string> failure;
     // In the silent pass of the search: the arrangement passed every check.
     bool passedSearch = false;
+    // The verdict beyond the method's own checks (none of them touches the method's
+    // variables): the detailed section under the design forces by strain
+    // compatibility (a fraction; NaN before it is detailed or where it cannot be
+    // verified), and the rules the final arrangement breaks.
+    double utilisation = std::nan("");
+    bool carried = true;
+    int arrangementFailures = 0;
+    // A negative moment was designed by its magnitude (the section is symmetric).
+    bool momentAsMagnitude = false;
 
-    // The "Erros" verdict: designed and detailed, no check failed, no failure.
+    // The "Erros" verdict: designed and detailed, no check of the method failed, no
+    // failure, the detailed section carries its forces and the final arrangement
+    // holds every rule.
     bool ok() const;
     ErrorFlag flag = ErrorFlag::Unset;
 };

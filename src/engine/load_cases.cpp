@@ -93,7 +93,10 @@ CasesResult calculateCases(const ColumnInput& column, const std::vector<LoadCase
         if (!(u[i] <= 1)) {
             const double g = r.detail.design.gammaN;
             r.failures.push_back(checks::caseNotCarried(cases[i].name, cases[i].Nd * g, cases[i].Md * g, u[i]));
-            questions.tell(r.failures.back());
+            // The governing case's own calculation has told it already, with the
+            // area the section needs.
+            if (static_cast<int>(i) != r.governing)
+                questions.tell(r.failures.back());
         }
     }
     return r;

@@ -6,6 +6,7 @@
 #include "base/number_text.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace pilarix::engine {
 
@@ -51,14 +52,27 @@ bool carriesEveryCase(const ColumnInput& column, const MethodState& s, const std
 }
 } // namespace
 
+double countCandidates(const SearchInput& input)
+{
+    // The loops below run from 2 up to each maximum in steps of one.
+    auto counts = [](double maximum) { return maximum >= 2 ? std::floor(maximum - 2) + 1 : 0.0; };
+    return counts(input.maxBarsOnDepthFace) * counts(input.maxBarsOnWidthFace)
+           * std::max(0.0, std::floor(input.column.maxStirrupIndex));
+}
+
 SearchResult search(const SearchInput& input, Memory& memory, MethodState& state)
 {
     SearchResult r;
     ColumnInput column = input.column;
     column.dLinha.automatic = true;
     const double sMax = column.maxStirrupIndex;
-    const double candidates = std::max(0.0, input.maxBarsOnDepthFace - 1) * std::max(0.0, input.maxBarsOnWidthFace - 1)
-                              * std::max(0.0, sMax);
+    const double candidates = countCandidates(input);
+    if (input.candidateLimit > 0 && candidates > input.candidateLimit) {
+        r.beyondLimit = candidates;
+        return r;
+    }
+    // Told about once every 256 arrangements: the call costs nothing beside them.
+    constexpr long kProgressEvery = 256;
     std::vector<Solution>& found = r.found;
     found.reserve(static_cast<std::size_t>(std::min(candidates, kReserveLimit)));
     try {
@@ -84,9 +98,20 @@ SearchResult search(const SearchInput& input, Memory& memory, MethodState& state
                     Memory fresh;
                     ColumnResult c = calculateCandidate(tried, {stirrup.diameter, stirrup.mass},
                                                         severalCases ? fresh : memory, state);
-                    if (c.passedSearch && severalCases && !carriesEveryCase(tried, state, input.cases))
+                    // A solution carries its forces by strain compatibility, every
+                    // case of them, whatever the method found.
+                    if (c.passedSearch
+                        && !carriesEveryCase(tried, state,
+                                             severalCases ? input.cases
+                                                          : std::vector<LoadCase>{{{}, tried.Nd, tried.Md}}))
                         c.passedSearch = false;
                     ++r.candidates;
+                    if (input.progress && r.candidates % kProgressEvery == 0
+                        && !input.progress(static_cast<double>(r.candidates), candidates)) {
+                        r.cancelled = true;
+                        r.found.clear();
+                        return r;
+                    }
                     if (c.dLinhaText)
                         r.dLinhaText = c.dLinhaText;
                     if (c.failure) {

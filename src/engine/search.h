@@ -7,12 +7,16 @@
 // (equal weights keep the order they were found in: fewer bars on the depth faces,
 // then on the width faces, then the thinner stirrup).
 //
+// The arrangements are counted first: past `candidateLimit` the search does not
+// start. A long one reports its progress and may be stopped.
+//
 //   search(input, memory)           -> SearchResult
 //   search(input, memory, state)    the same on the caller's method variables
 
 #include "engine/column.h"
 #include "engine/load_cases.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -27,7 +31,16 @@ struct SearchInput {
     std::vector<LoadCase> cases;
     double maxBarsOnWidthFace = 2; // bars that fit on a face of width b
     double maxBarsOnDepthFace = 2; // bars that fit on a face of depth h
+    // The most arrangements the search tries before it asks (0: no limit): past it
+    // the search does not start, and says how many it would try.
+    double candidateLimit = 0;
+    // Told now and then how far the search has gone (arrangements tried, of all);
+    // false stops it there, with the solutions found so far dropped.
+    std::function<bool(double done, double total)> progress;
 };
+
+// How many arrangements the search would try: bar counts times stirrups.
+double countCandidates(const SearchInput& input);
 
 struct Solution {
     double weight = 0;           // kg of longitudinal steel
@@ -54,6 +67,10 @@ struct SearchResult {
     std::optional<std::string> dLinhaText;
     // Set when the method could not go on: the search stopped there.
     std::optional<std::string> failure;
+    // The arrangements it would have tried, past the limit: it did not start.
+    std::optional<double> beyondLimit;
+    // Stopped by the one who asked for it (progress answered false).
+    bool cancelled = false;
 };
 
 SearchResult search(const SearchInput& input, Memory& memory);

@@ -451,16 +451,16 @@ void ZoneMethod::zoneE()
     ratioFromMoment();
 }
 
-void ZoneMethod::zoneC()
+bool ZoneMethod::zoneC()
 {
     criticalField();
     if (s.BetaX == 0.5) {
         // Near βx = 0.5 the symmetric bars carry a pure couple: the moment alone
-        // gives the ratio.
+        // gives the ratio, from a field the method takes without a march.
         s.BetaX = 0.5;
         fieldAtBetaX(*this);
         ratioFromMoment();
-        return;
+        return false;
     }
 
     if (s.Ni > s.NiCrit) {
@@ -484,15 +484,16 @@ void ZoneMethod::zoneC()
     } else {
         ratioFromForce();
     }
+    return true;
 }
 
-void ZoneMethod::zoneA()
+bool ZoneMethod::zoneA()
 {
     // A moment this small in a section so compressed is taken as none (a fixed
     // threshold of the method, not the user's precision).
     if (std::fabs(s.Mi) < 0.005) {
         uniformShortening();
-        return;
+        return false;
     }
     // From the field with 3.5 per mille at the top and none at the farthest layer,
     // towards uniform shortening.
@@ -502,6 +503,7 @@ void ZoneMethod::zoneA()
     s.Passo = 0.2;
     marchLeastCompressedStrain();
     ratioFromForce();
+    return true;
 }
 
 void ZoneMethod::reinforcementRatio()
@@ -514,23 +516,42 @@ void ZoneMethod::reinforcementRatio()
         s.SigMed = -s.fyd;
         s.Rho = s.SigCd * s.Ni / s.SigMed;
     } else {
+        bool marched = false;
         switch (s.Zona) {
         case Zone::C:
-            zoneC();
+            marched = zoneC();
             break;
         case Zone::A:
-            zoneA();
+            marched = zoneA();
             break;
         case Zone::O:
             // The concrete alone carries (ν, μ): no search, no steel.
             break;
         default:
             zoneE();
+            marched = true;
             break;
         }
+        if (marched)
+            checkEquilibrium();
     }
     if (s.Rho <= 0)
         s.Rho = 0;
+}
+
+// A march that stopped on the field where the bars have no resultant (κ is the
+// "infinitely far" marker), or whose last residual is still beyond the precision,
+// has not balanced the section: its ratio would be that of a field out of
+// equilibrium (with two rows both yielding it can be zero while the section needs
+// steel). It counts as a march that cannot end, and strain compatibility gives the
+// area instead.
+void ZoneMethod::checkEquilibrium()
+{
+    if (s.SigMed != 0 && std::fabs(s.Resid) <= P)
+        return;
+    throw MarchFailure("A busca do método das zonas terminou fora do equilíbrio da seção (resíduo = " + Str(s.Resid)
+                       + (s.SigMed == 0 ? ", barras sem resultante" : "") + ", ν = " + Str(s.Ni) + ", μ = "
+                       + Str(s.Mi) + ", precisão = " + Str(P) + ").");
 }
 
 void ZoneMethod::criticalField()

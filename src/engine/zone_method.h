@@ -1,7 +1,7 @@
 #pragma once
 // The method of solicitation zones over the method's variables: the strain field of
 // a relative neutral-axis depth, the reference fields, the zone bounds, the zone and
-// the reinforcement ratio. Used by design() (zone_design.h) and by the passes of a
+// the reinforcement ratio. Used by design() (column.h) and by the passes of a
 // whole calculation; not a public interface of the engine.
 //
 // A strain field is identified by βx = x/h from the most compressed face. The
@@ -46,9 +46,11 @@ private:
     void marchMomentResidual();        // SProc_BK19
     void marchForceMomentResidual();   // SProc_AK20
     void marchLeastCompressedStrain(); // SProc_BC17
+    // Each says whether it reached its field by a march.
     void zoneE();
-    void zoneC();
-    void zoneA();
+    bool zoneC();
+    bool zoneA();
+    void checkEquilibrium();
     void uniformShortening();
     void ratioFromMoment();
     void ratioFromForce();

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QPushButton>
 
 namespace pilarix::ui {
@@ -122,6 +123,47 @@ std::string QtDialogs::askReportFileName(const std::string& proposed)
     if (d.exec() != QDialog::Accepted || d.selectedFiles().isEmpty())
         return {};
     return d.selectedFiles().constFirst().toStdString();
+}
+
+} // namespace pilarix::ui
+
+namespace pilarix::ui {
+
+bool QtDialogs::askLargeSearch(double total, double limit)
+{
+    const QString texto = QStringLiteral("A busca da melhor solução testaria %L1 arranjos, mais que o limite de %L2, "
+                                         "e pode demorar. Continuar mesmo assim? (A busca pode ser interrompida.)")
+                              .arg(total, 0, 'f', 0)
+                              .arg(limit, 0, 'f', 0);
+    return QMessageBox::question(parent_, QStringLiteral("Calcula melhor solução"), texto,
+                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+           == QMessageBox::Yes;
+}
+
+bool QtDialogs::searchProgress(double done, double total)
+{
+    if (!progresso_) {
+        progresso_ = new QProgressDialog(QStringLiteral("Buscando a melhor solução..."), QStringLiteral("Interromper"),
+                                         0, 1000, parent_);
+        progresso_->setWindowTitle(QStringLiteral("Calcula melhor solução"));
+        progresso_->setWindowModality(Qt::WindowModal);
+        progresso_->setMinimumDuration(500);
+        progresso_->setAutoClose(false);
+        progresso_->setAutoReset(false);
+        progresso_->setValue(0);
+    }
+    const int valor = total > 0 ? static_cast<int>(1000 * done / total) : 0;
+    progresso_->setLabelText(QStringLiteral("Buscando a melhor solução: %L1 de %L2 arranjos")
+                                 .arg(done, 0, 'f', 0)
+                                 .arg(total, 0, 'f', 0));
+    progresso_->setValue(valor);
+    QCoreApplication::processEvents();
+    const bool segue = !progresso_->wasCanceled();
+    if (!segue || done >= total) {
+        progresso_->deleteLater();
+        progresso_ = nullptr;
+    }
+    return segue;
 }
 
 } // namespace pilarix::ui

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QString>
 
+class QProgressDialog;
 class QWidget;
 
 namespace pilarix::ui {
@@ -36,6 +37,8 @@ public:
     std::string askDrawingFileName(const std::string& proposed) override;
     std::string askReportFileName(const std::string& proposed) override;
     int askSaveChanges(const std::string& question) override;
+    bool askLargeSearch(double total, double limit) override;
+    bool searchProgress(double done, double total) override;
 
 private:
     QWidget* parent_;
@@ -43,6 +46,9 @@ private:
     QPointer<ErrorDialog> erro_;
     QPointer<CoverDialog> cobrimento_;
     QPointer<StirrupChoiceDialog> estribos_;
+    // The progress of the search under way: shown once it has run half a second,
+    // closed when it ends.
+    QPointer<QProgressDialog> progresso_;
 };
 
 } // namespace pilarix::ui

@@ -41,6 +41,21 @@ public:
     // Where to save the calculation report (.pdf), proposing a name; empty when cancelled.
     virtual std::string askReportFileName(const std::string& proposed) = 0;
 
+    // "Calcula melhor solução" would try `total` arrangements, more than `limit`:
+    // true runs it all the same. Without a person to ask, the limit holds.
+    virtual bool askLargeSearch(double total, double limit)
+    {
+        (void)total, (void)limit;
+        return false;
+    }
+
+    // How far a search has gone, a few times a second at most; false stops it.
+    virtual bool searchProgress(double done, double total)
+    {
+        (void)done, (void)total;
+        return true;
+    }
+
     // Before the window closes, opens a project or starts anew over input that was
     // not saved: 1 saves it first, 2 discards it, 0 cancels what was asked.
     virtual int askSaveChanges(const std::string& question) = 0;

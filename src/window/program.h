@@ -141,6 +141,9 @@ public:
     // Counts the calculations run (of "&Calcula", the step buttons and the search),
     // so that the window knows when what it shows was calculated.
     unsigned CalculosFeitos = 0;
+    // The most arrangements "Calcula melhor solução" tries without asking (0: no
+    // limit): about a second of this machine's work.
+    double LimiteDaBusca = 200000;
 
     // ---- best-solution search (window/solutions.cpp) ----
     double NSolucoes = 0;
@@ -194,6 +197,8 @@ public:
     // ---- shared machinery ----
     // Puts MensagemErro and ItemNorma into "Mensagem de erro" and shows it.
     void MostraErro();
+    // The "Mensagem de erro" dialog with a text and a clause of its own.
+    void MostraMensagem(const std::string& mensagem, const std::string& item);
     // The window's entry points run through this: a CalcError is shown as a
     // message, the "Erros" box reads "erro" and the input is kept.
     template <typename F>
@@ -207,6 +212,8 @@ private:
     void passeInterativo();
     void calculaCasos(engine::Questions& perguntas);
     void finalDeErro();
+    // An input refused before the calculation: the message, no result, "erro".
+    void recusaEntrada(const std::string& mensagem);
 
     DialogPort* dialogs_;
     bool buscaEmCurso_ = false;

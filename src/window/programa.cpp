@@ -7,6 +7,7 @@
 #include "base/number_text.h"
 #include "engine/column.h"
 #include "engine/failure.h"
+#include "window/window_input.h"
 #include "window/window_questions.h"
 
 #include <cfenv>
@@ -45,10 +46,12 @@ engine::ExposureClass classe(const std::string& texto)
 
 } // namespace
 
-void Program::MostraErro()
+void Program::MostraErro() { MostraMensagem(metodo.MensagemErro, metodo.ItemNorma); }
+
+void Program::MostraMensagem(const std::string& mensagem, const std::string& item)
 {
-    Form2.Label1.Caption = metodo.MensagemErro;
-    Form2.Label2.Caption = metodo.ItemNorma;
+    Form2.Label1.Caption = mensagem;
+    Form2.Label2.Caption = item;
     MensagensDoCalculo.push_back(
         {DialogRecord::Kind::Error, Form2.Caption, Form2.Label1.Caption, Form2.Label2.Caption, {}, {}, 0, {}});
     dialogs().showError(Form2);
@@ -64,6 +67,17 @@ void Program::falhaDeCalculo(const std::string& mensagem)
     metodo.MensagemErro = mensagem;
     metodo.ItemNorma.clear();
     metodo.FlagErro = engine::ErrorFlag::Failed;
+    MostraErro();
+    finalDeErro();
+}
+
+void Program::recusaEntrada(const std::string& mensagem)
+{
+    Desenho.reset();
+    ++VersaoDoDesenho;
+    Zera31();
+    metodo.MensagemErro = mensagem;
+    metodo.ItemNorma.clear();
     MostraErro();
     finalDeErro();
 }
@@ -122,6 +136,12 @@ void Program::programa0Passes()
     metodo.Recalcula = engine::Recalculation::No;
     Form1.Image1Visible = false;
 
+    // Input outside what a column can be is refused before anything is read or
+    // corrected, in the window and on the command line alike.
+    if (const auto problema = conferenciaDaEntrada(*this)) {
+        recusaEntrada(*problema);
+        return;
+    }
     std::feclearexcept(FE_ALL_EXCEPT);
     Ler02();
     engine::checkFloatingPoint("Ler02", {Base, Altura, nBase, static_cast<double>(nAltura), metodo.dLinha, Nd, Md,
@@ -174,7 +194,9 @@ void Program::passeInterativo()
     Imprime37();
     engine::checkFloatingPoint("Imprime37", {Base, Altura, nBase, static_cast<double>(nAltura), metodo.dLinha, Nd, Md,
                                              Fck, Precisao});
-    if (metodo.FlagErro == engine::ErrorFlag::None) {
+    // "Ok" only where the column earns it: the method's checks, the detailed section
+    // under every case and the final arrangement as built.
+    if (metodo.FlagErro == engine::ErrorFlag::None && r.carried && r.arrangementFailures == 0) {
         Form1.Text30.Text = "Ok";
         Form1.Text30.BackColor = kWhite;
     } else {

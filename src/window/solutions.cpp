@@ -4,6 +4,7 @@
 // into the main window.
 
 #include "window/program.h"
+#include "window/window_input.h"
 
 #include "base/number_text.h"
 #include "engine/catalogue.h"
@@ -141,10 +142,32 @@ void buscaMelhorSolucao(Program& p)
         in.maxBarsOnDepthFace = p.nMaxAltura;
         if (!p.OutrosCasos.empty())
             in.cases = p.casosDeCarga();
+        // A section so large that the search would run for long asks first; the
+        // engineer may lift the limit for this search.
+        const double total = engine::countCandidates(in);
+        in.candidateLimit = p.LimiteDaBusca;
+        if (p.LimiteDaBusca > 0 && total > p.LimiteDaBusca && p.dialogs().askLargeSearch(total, p.LimiteDaBusca))
+            in.candidateLimit = 0;
+        in.progress = [&p](double feitos, double todos) { return p.dialogs().searchProgress(feitos, todos); };
         const engine::SearchResult r = [&] {
             BuscaEmCurso busca(p);
             return engine::search(in, p.memoria, p.metodo);
         }();
+        if (r.beyondLimit || r.cancelled) {
+            const std::string aviso =
+                r.beyondLimit ? "A busca testaria " + Str(*r.beyondLimit) + " arranjos, mais que o limite de "
+                                    + Str(p.LimiteDaBusca)
+                                    + ": nada foi calculado. Reduza a seção ou aumente o limite "
+                                      "(pilarix-cli --limite-busca N; 0 para nenhum)."
+                              : "A busca foi interrompida depois de " + Str(static_cast<double>(r.candidates))
+                                    + " de " + Str(total) + " arranjos: nenhuma solução foi guardada.";
+            p.MensagensDoCalculo.push_back({DialogRecord::Kind::Notice, "aviso", aviso, {}, {}, {}, 0, {}});
+            p.dialogs().notice(aviso);
+            p.Zera31();
+            f.Text30.Text = "erro";
+            f.Text30.BackColor = kRed;
+            return;
+        }
         if (r.candidates > 0 || r.failure) {
             // Every candidate ran as a silent pass of the window: the last one's
             // arrangement and results are what the window holds now.
@@ -187,6 +210,12 @@ void buscaMelhorSolucao(Program& p)
 void Program::Command8_Click()
 {
     ++CalculosFeitos;
+    if (const auto problema = conferenciaDaEntrada(*this)) {
+        MensagensDoCalculo.clear();
+        LimpaSolucoes();
+        recusaEntrada(*problema);
+        return;
+    }
     try {
         buscaMelhorSolucao(*this);
     } catch (const CalcError& e) {

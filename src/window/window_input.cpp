@@ -2,9 +2,12 @@
 
 #include "base/calc_error.h"
 #include "base/number_text.h"
+#include "window/units.h"
 
+#include <algorithm>
 #include <array>
 #include <cctype>
+#include <cmath>
 #include <cstdlib>
 #include <functional>
 
@@ -185,6 +188,66 @@ bool vazia(const std::string& texto)
 
 std::string aspas(const std::string& s) { return "\"" + s + "\""; }
 
+// The ranges an engineer would accept for a column, in the program's units (cm,
+// kgf, kgf·cm, kgf/cm²), checked on the value as the unit of its list makes it.
+// Outside them the method still runs, and answers with numbers that mean nothing
+// (a negative γc gives a negative βx, a negative length a negative weight).
+struct Faixa {
+    const TextBox* caixa;
+    const char* nome;
+    const char* unidade; // the list of the box's unit, none for a fixed one
+    double minimo, maximo;
+    bool minimoIncluso;
+    const char* faixa;   // the range as the engineer reads it
+};
+
+std::optional<std::string> foraDaFaixa(const Program& p)
+{
+    const auto& f = p.Form1;
+    auto fator = [](const std::string& unidade) { return fatorDaUnidade(unidade).value_or(1); };
+    const Faixa faixas[] = {
+        {&f.Text1, "Base (cm)", nullptr, 0, 2000, false, "maior que 0 e no máximo 2000 cm"},
+        {&f.Text2, "Altura (cm)", nullptr, 0, 2000, false, "maior que 0 e no máximo 2000 cm"},
+        {&f.Text23, "Comprimento (cm)", nullptr, 0, 10000, false, "maior que 0 e no máximo 10000 cm"},
+        {&f.Text4, "Barras nas faces da base", nullptr, 2, 500, true, "um número inteiro de 2 a 500"},
+        {&f.Text5, "Barras nas faces da altura", nullptr, 2, 500, true, "um número inteiro de 2 a 500"},
+        {&f.Text16, "Nd", f.Combo4.Text.c_str(), -1e8, 1e8, true, "de -1000000 kN a 1000000 kN"},
+        {&f.Text17, "Md", f.Combo5.Text.c_str(), -1e10, 1e10, true, "de -1000000 kN.m a 1000000 kN.m"},
+        {&f.Text20, "Es", f.Combo7.Text.c_str(), 1e6, 3e6, true, "de 100000 MPa a 300000 MPa"},
+        {&f.Text21, "γc (coef. do concreto)", nullptr, 1, 3, true, "de 1 a 3"},
+        {&f.Text22, "γs (coef. do aço)", nullptr, 1, 3, true, "de 1 a 3"},
+    };
+    for (const auto& x : faixas) {
+        const double v = *valor(x.caixa->Text) * (x.unidade ? fator(x.unidade) : 1);
+        const bool inteiro = x.caixa == &f.Text4 || x.caixa == &f.Text5;
+        const bool abaixo = x.minimoIncluso ? v < x.minimo : v <= x.minimo;
+        if (abaixo || v > x.maximo || (inteiro && v != std::floor(v)))
+            return "A caixa " + aspas(x.nome) + " tem " + x.caixa->Text + (x.unidade ? " " + std::string(x.unidade) : "")
+                   + ", fora do que o programa aceita: " + x.faixa + ".";
+    }
+    // d' lies between a face and the middle of the section, in both directions.
+    if (!f.Check3.ticked() && !vazia(f.Text3.Text)) {
+        const double d = *valor(f.Text3.Text);
+        const double menor = std::min(std::max(*valor(f.Text1.Text), 12.0), std::max(*valor(f.Text2.Text), 12.0));
+        if (!(d > 0 && d < menor / 2))
+            return "A caixa \"d' (cm)\" tem " + f.Text3.Text
+                   + ", fora do que o programa aceita: maior que 0 e menor que metade do menor lado da seção ("
+                   + Str(menor / 2) + " cm); deixe-a vazia para que o cobrimento a defina.";
+    }
+    // Every load case beyond the first, in the units of the main window's lists.
+    for (const auto& c : p.OutrosCasos) {
+        const auto nd = valor(c.nd);
+        const auto md = valor(c.md);
+        if (!nd || !md)
+            return "O caso " + aspas(c.nome) + " tem " + aspas(!nd ? c.nd : c.md)
+                   + ", que não é um número: digite as forças do caso nas unidades da janela.";
+        if (std::fabs(*nd * fator(f.Combo4.Text)) > 1e8 || std::fabs(*md * fator(f.Combo5.Text)) > 1e10)
+            return "O caso " + aspas(c.nome) + " tem forças fora do que o programa aceita: |Nd| até 1000000 kN e |Md| "
+                   "até 1000000 kN.m.";
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 std::vector<std::pair<std::string, std::string>> valoresDaEntrada(const Program& p, Alcance alcance)
@@ -288,6 +351,8 @@ std::optional<std::string> conferenciaDaEntrada(const Program& p)
     if (!f.Check3.ticked() && !vazia(f.Text3.Text) && !valor(f.Text3.Text))
         return "A caixa \"d' (cm)\" tem " + aspas(f.Text3.Text)
                + ", que não é um número: digite d' em cm, deixe-a vazia ou marque \"d' automático\"." + nada;
+    if (auto m = foraDaFaixa(p))
+        return *m + nada;
     if (auto m = conferenciaDeOutrosValores(p.Form8.Text1.Text, p.Form8.Text2.Text))
         return *m + " (Valores > Outros)" + nada;
     if (auto m = conferenciaDaEscala(f.Text6.Text))

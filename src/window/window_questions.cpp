@@ -58,6 +58,22 @@ int PerguntasDaJanela::chooseStirrup(const engine::StirrupQuestion& q)
 // of the load cases is put there too, so that the dialog shows its own words.
 void PerguntasDaJanela::tell(const engine::Check& c)
 {
+    // The checks of the verdict (the detailed section, the final arrangement) and the
+    // note on a negative moment are not the method's: its variables keep what it
+    // computed, and only the dialog shows them.
+    switch (c.id) {
+    case engine::CheckId::SectionNotCarried:
+    case engine::CheckId::FinalCoverBelowNominal:
+    case engine::CheckId::FinalCoverBelowBar:
+    case engine::CheckId::FinalBarAboveEighthOfSide:
+    case engine::CheckId::FinalStirrupTooThin:
+    case engine::CheckId::FinalStirrupSpacing:
+    case engine::CheckId::MomentAsMagnitude:
+        p_.MostraMensagem(c.text, c.namesClause ? std::string(c.clause) : p_.Form2.Label2.Caption);
+        return;
+    default:
+        break;
+    }
     p_.metodo.MensagemErro = c.text;
     if (c.namesClause)
         p_.metodo.ItemNorma = std::string(c.clause);

@@ -157,7 +157,13 @@ TEST(EngineColumn, ChecksThatStopOrFailACalculation)
         {"no allowed bar is large enough", [](ColumnInput& in) { in.Nd = 180000, in.maxBarIndex = 4; }, true, false,
          false, ErrorFlag::Failed, 0,
          {"Diâmetro das barras longitudinais devem ser superiores à maior bitola definida pelo usuário."}},
-        {"the minimum chooses 16 mm", square, true, true, true, ErrorFlag::None, 8, {}},
+        // The minimum steel replaces the 10 mm bar the cover was checked with: with
+        // 16 mm at d' = 4 the cover left is 2.7 cm, and the final arrangement fails.
+        {"the minimum chooses 16 mm", square, true, true, false, ErrorFlag::None, 8,
+         {"Arranjo final: com a barra de 16 mm e o estribo de 5 mm o cobrimento efetivo é de 2.700 cm, menor que o "
+          "cobrimento nominal = 3 cm."}},
+        {"the minimum chooses 16 mm, d' leaves room for it", [&](ColumnInput& in) { square(in), in.dLinha.typed = 4.5; },
+         true, true, true, ErrorFlag::None, 8, {}},
         // 4 bars of 40 mm in 35 x 35: within the 1/8 rule and the spacing, past 4 % of Ac
         {"more than 4 % of Ac",
          [&](ColumnInput& in) {
