@@ -50,6 +50,13 @@ AxialRange rangeOf(const BiaxialSection& s)
     return {f.forces(0).n, f.forces(3).n};
 }
 
+// Where the search for N starts: the t of a neighbouring angle and the slope dN/dt
+// found there (0 when unknown); each search leaves its own.
+struct Hint {
+    double t = -1;
+    double slope = 0;
+};
+
 struct Solved {
     double t = 0;
     BiaxialForces f;
@@ -57,34 +64,49 @@ struct Solved {
 
 // The plane of the family that carries nSd (within [N_Rd,min, N_Rd,max]): N grows with
 // t; regula falsi with the end that stays put halved (Illinois) and a halving step
-// every third step keeps lo below nSd and hi at or above it. A guess (the t of a
-// neighbouring angle) narrows the bracket first.
-Solved solveN(const PlaneFamily& fam, double nSd, const AxialRange& r, double guess = -1)
+// every third step keeps lo below nSd and hi at or above it. A hint narrows the
+// bracket first, by steps of the expected distance, doubled while they fall short.
+Solved solveN(const PlaneFamily& fam, double nSd, const AxialRange& r, Hint& hint)
 {
-    if (nSd <= r.nRdMin)
+    if (nSd <= r.nRdMin) {
+        hint = {0, 0};
         return {0, fam.forces(0)};
+    }
     const double tol = 1e-14 * (r.nRdMax - r.nRdMin);
     double tLo = 0, tHi = 3, fLo = r.nRdMin - nSd, fHi = r.nRdMax - nSd;
     BiaxialForces atHi;
     bool haveHi = false;
-    if (guess > 0 && guess < 3) {
-        double step = 0.02;
-        double t = guess;
-        for (int i = 0; i < 12; ++i) {
+    double lastT = -1, lastN = 0; // the last plane tried, for the slope
+    auto tried = [&](double t, const BiaxialForces& f) {
+        if (lastT >= 0 && t != lastT) {
+            const double slope = (f.n - lastN) / (t - lastT);
+            if (slope > 0 && std::isfinite(slope))
+                hint.slope = slope;
+        }
+        lastT = t, lastN = f.n;
+    };
+    auto found = [&](double t, const BiaxialForces& f) {
+        hint.t = t;
+        return Solved{t, f};
+    };
+    if (hint.t > 0 && hint.t < 3) {
+        double t = hint.t;
+        for (int i = 0; i < 40; ++i) {
             const BiaxialForces f = fam.forces(t);
+            tried(t, f);
             const double g = f.n - nSd;
             if (std::fabs(g) <= tol)
-                return {t, f};
+                return found(t, f);
+            const double step = hint.slope > 0 ? std::clamp(1.5 * std::fabs(g) / hint.slope, 1e-12, 0.5) : 0.02;
             if (g < 0) {
                 tLo = t, fLo = g;
-                t = std::min(t + step, 3.0);
+                t = std::min(t + step * (1 << std::min(i, 20)), 3.0);
             } else {
                 tHi = t, fHi = g, atHi = f, haveHi = true;
-                t = std::max(t - step, 0.0);
+                t = std::max(t - step * (1 << std::min(i, 20)), 0.0);
             }
             if (!(t > tLo && t < tHi))
                 break;
-            step *= 2;
         }
     }
     int kept = 0;
@@ -96,9 +118,10 @@ Solved solveN(const PlaneFamily& fam, double nSd, const AxialRange& r, double gu
         if (t <= tLo || t >= tHi)
             break;
         const BiaxialForces f = fam.forces(t);
+        tried(t, f);
         const double g = f.n - nSd;
         if (std::fabs(g) <= tol)
-            return {t, f};
+            return found(t, f);
         if (g < 0) {
             tLo = t, fLo = g;
             if (kept == -1)
@@ -111,13 +134,13 @@ Solved solveN(const PlaneFamily& fam, double nSd, const AxialRange& r, double gu
             kept = +1;
         }
     }
-    return {tHi, haveHi ? atHi : fam.forces(tHi)};
+    return found(tHi, haveHi ? atHi : fam.forces(tHi));
 }
 
-ContourPoint pointAt(const BiaxialSection& s, double angle, double nSd, const AxialRange& r, double guess = -1)
+ContourPoint pointAt(const BiaxialSection& s, double angle, double nSd, const AxialRange& r, Hint& hint)
 {
     const PlaneFamily fam(s, angle);
-    const Solved x = solveN(fam, nSd, r, guess);
+    const Solved x = solveN(fam, nSd, r, hint);
     return {x.f.mx, x.f.my, angle - std::floor(angle), x.t};
 }
 
@@ -128,85 +151,93 @@ double gapAngle(const ContourPoint& a, const ContourPoint& b)
 
 bool inRange(double nSd, const AxialRange& r) { return nSd >= r.nRdMin && nSd <= r.nRdMax; }
 
-// The contour point on the ray of unit direction (dx, dy). The plane's angle is the
-// direction's to start with (exact for a doubly symmetric layout on the axes); the
-// cross product c = d × M grows through 0 as the angle turns the moment
-// counter-clockwise past d, so steps of doubling size find a bracket, and the
-// Illinois search on the angle closes it.
+// The contour point on the ray of unit direction (dx, dy). e, the angle from d to the
+// moment of the plane (radians, counter-clockwise positive), grows through 0 as the
+// plane turns the moment past d, about as fast as the plane turns. The plane's angle
+// is the direction's to start with (exact on the axes for a doubly symmetric layout);
+// secant steps, a little long, find a bracket, and the Illinois search on the angle
+// closes it.
 ContourPoint rayPoint(const BiaxialSection& s, const AxialRange& r, double nSd, double dx, double dy)
 {
     struct Eval {
         double angle = 0; // unreduced, so that a bracket may run past a whole turn
         ContourPoint p;
-        double c = 0, along = 0;
+        double e = 0;
     };
-    auto eval = [&](double angle, double guess) {
-        Eval e{angle, pointAt(s, angle, nSd, r, guess), 0, 0};
-        e.c = dx * e.p.my - dy * e.p.mx;
-        e.along = dx * e.p.mx + dy * e.p.my;
-        return e;
+    Hint hint;
+    auto eval = [&](double angle) {
+        Eval x{angle, pointAt(s, angle, nSd, r, hint), 0};
+        x.e = std::atan2(dx * x.p.my - dy * x.p.mx, dx * x.p.mx + dy * x.p.my);
+        return x;
     };
-    auto onRay = [](const Eval& e) {
-        return e.along > 0 && std::fabs(e.c) <= 1e-12 * std::hypot(e.p.mx, e.p.my);
-    };
+    auto done = [](const Eval& x) { return std::fabs(x.e) <= 1e-12 || (x.p.mx == 0 && x.p.my == 0); };
     const double start = std::atan2(dy, dx) / kTurn;
-    const Eval first = eval(start, -1);
-    if (onRay(first) || (first.p.mx == 0 && first.p.my == 0))
-        return first.p;
+    Eval prev = eval(start);
+    if (done(prev))
+        return prev.p;
 
-    Eval lo = first, hi = first;
+    Eval lo, hi;
     bool bracketed = false;
-    const double dir = first.c < 0 ? 1 : -1;
-    for (double step = 1.0 / 144; step <= 0.5 && !bracketed; step *= 2) {
-        const Eval e = eval(start + dir * std::min(step, 0.5), first.p.t);
-        if ((e.c < 0) == (first.c < 0)) {
-            (dir > 0 ? lo : hi) = e;
-            continue;
+    double slope = kTurn, overshoot = 1.2; // radians per turn
+    for (int i = 0; i < 12 && !bracketed; ++i, overshoot *= 1.5) {
+        const double step = std::clamp(-prev.e / slope * overshoot, -0.25, 0.25);
+        const Eval x = eval(prev.angle + step);
+        if (done(x))
+            return x.p;
+        if ((x.e < 0) != (prev.e < 0) && std::fabs(x.e - prev.e) < std::numbers::pi) {
+            lo = x.e < 0 ? x : prev;
+            hi = x.e < 0 ? prev : x;
+            bracketed = true;
+        } else {
+            const double secant = (x.e - prev.e) / (x.angle - prev.angle);
+            if (secant > 0 && std::isfinite(secant))
+                slope = secant;
+            prev = x;
         }
-        (dir > 0 ? hi : lo) = e;
-        bracketed = e.along > 0 || (dir > 0 ? lo : hi).along > 0;
     }
     if (!bracketed) {
         // A contour far from the symmetric shape: the whole turn in steps of 5°.
-        Eval prev = eval(start, -1);
+        prev = eval(start);
         for (int k = 1; k <= kContourGrid && !bracketed; ++k) {
-            const Eval e = eval(start + static_cast<double>(k) / kContourGrid, prev.p.t);
-            if (prev.c < 0 && e.c >= 0 && (prev.along > 0 || e.along > 0)) {
-                lo = prev, hi = e, bracketed = true;
-            }
-            prev = e;
+            const Eval x = eval(start + static_cast<double>(k) / kContourGrid);
+            if (prev.e < 0 && x.e >= 0 && x.e - prev.e < std::numbers::pi)
+                lo = prev, hi = x, bracketed = true;
+            prev = x;
         }
         if (!bracketed)
             throw CalcError("A curva de momentos resistentes não cruza a direção do momento solicitante (seção "
                             "sem armadura centrada?).");
     }
-    double cLo = lo.c, cHi = hi.c;
+    // Regula falsi with the Anderson–Björck scaling of the end that stays put: e is
+    // smooth in the angle, and this closes in superlinearly from both sides.
+    double eLo = lo.e, eHi = hi.e;
     int kept = 0;
     for (int i = 0; i < kSearchCap; ++i) {
-        if (onRay(lo))
-            return lo.p;
-        if (onRay(hi))
-            return hi.p;
-        const double a0 = lo.angle, a1 = hi.angle, mid = a0 + (a1 - a0) / 2;
-        double a = (i % 3 == 2) ? mid : a0 - cLo * (a1 - a0) / (cHi - cLo);
+        const double a0 = lo.angle, a1 = hi.angle;
+        double a = a0 - eLo * (a1 - a0) / (eHi - eLo);
         if (!(a > a0 && a < a1))
-            a = mid;
+            a = a0 + (a1 - a0) / 2;
         if (a <= a0 || a >= a1)
             break;
-        const Eval e = eval(a, (lo.p.t + hi.p.t) / 2);
-        if (e.c < 0) {
-            lo = e, cLo = e.c;
+        hint.t = lo.p.t + (hi.p.t - lo.p.t) * (a - a0) / (a1 - a0);
+        const Eval x = eval(a);
+        if (done(x))
+            return x.p;
+        if (x.e < 0) {
+            const double m = 1 - x.e / eLo;
+            lo = x, eLo = x.e;
             if (kept == -1)
-                cHi /= 2;
+                eHi *= m > 0 ? m : 0.5;
             kept = -1;
         } else {
-            hi = e, cHi = e.c;
+            const double m = 1 - x.e / eHi;
+            hi = x, eHi = x.e;
             if (kept == +1)
-                cLo /= 2;
+                eLo *= m > 0 ? m : 0.5;
             kept = +1;
         }
     }
-    return std::fabs(lo.c) < std::fabs(hi.c) ? lo.p : hi.p;
+    return std::fabs(lo.e) < std::fabs(hi.e) ? lo.p : hi.p;
 }
 
 // The radius of the contour along the unit direction (dx, dy).
@@ -232,9 +263,9 @@ MomentContour momentContour(const BiaxialSection& section, double nSd)
         return c;
     std::vector<ContourPoint>& pts = c.points;
     pts.reserve(4 * kContourGrid);
+    Hint hint;
     for (int k = 0; k < kContourGrid; ++k)
-        pts.push_back(pointAt(section, static_cast<double>(k) / kContourGrid, nSd, c.range,
-                              pts.empty() ? -1 : pts.back().t));
+        pts.push_back(pointAt(section, static_cast<double>(k) / kContourGrid, nSd, c.range, hint));
     // Where the moment turns faster than the plane, halve the angle until no two
     // neighbours are more than 5° apart as seen from the origin.
     for (int pass = 0; pass < 8 && static_cast<int>(pts.size()) < kContourCap; ++pass) {
@@ -249,7 +280,8 @@ MomentContour momentContour(const BiaxialSection& section, double nSd)
             const std::size_t total = pts.size() + (next.size() - (i + 1)); // with the points added so far
             if (sized && gapAngle(a, b) > kMaxGap * (1 + 1e-9) && total < static_cast<std::size_t>(kContourCap)) {
                 const double end = i + 1 < pts.size() ? b.angle : 1.0;
-                next.push_back(pointAt(section, a.angle + (end - a.angle) / 2, nSd, c.range, (a.t + b.t) / 2));
+                hint.t = (a.t + b.t) / 2;
+                next.push_back(pointAt(section, a.angle + (end - a.angle) / 2, nSd, c.range, hint));
                 split = true;
             }
         }
