@@ -2,13 +2,17 @@
 # make test  - install what is missing, build, run every test (headless), also
 #              the core's tests under AddressSanitizer and UndefinedBehaviorSanitizer
 # make bench - install what is missing, build optimised, run the benchmarks
+# make install - build the two programs and install them with their desktop entry,
+#              icon, MIME type and manual pages (PREFIX=/usr/local, DESTDIR honoured)
+# make deb   - build the Debian package pilarix_VERSION_ARCH.deb and print its path
 
 PACKAGES := cmake make g++ pkg-config qt6-base-dev libgl-dev libgtest-dev libgmock-dev \
             libbenchmark-dev nlohmann-json3-dev libdxflib-dev qt6-svg-dev python3-ezdxf \
-            poppler-utils qt6-translations-l10n
+            poppler-utils qt6-translations-l10n dpkg-dev desktop-file-utils shared-mime-info groff-base
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
+PREFIX ?= /usr/local
 
-.PHONY: run test bench deps build build-asan cli clean
+.PHONY: run test bench deps build build-asan cli clean programs install deb
 
 deps:
 	@missing=""; \
@@ -45,6 +49,25 @@ bench: deps
 	cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DPILARIX_UI=OFF -DPILARIX_TESTS=OFF -DPILARIX_BENCH=ON
 	cmake --build build-bench -j $(JOBS)
 	./build-bench/bench/pilarix_bench
+
+# Only the two programs: the tests are not built to install or to package.
+programs: deps
+	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo
+	cmake --build build -j $(JOBS) --target pilarix pilarix-cli
+
+install: programs
+	DESTDIR="$(DESTDIR)" cmake --install build --prefix "$(PREFIX)" --strip
+	@# Installed for real (no DESTDIR), the desktop learns the new type, entry and icon
+	@# now; a package leaves that to the triggers of shared-mime-info and the others.
+	@if [ -z "$(DESTDIR)" ]; then \
+	  ! command -v update-mime-database >/dev/null || update-mime-database "$(PREFIX)/share/mime"; \
+	  ! command -v update-desktop-database >/dev/null || update-desktop-database -q "$(PREFIX)/share/applications"; \
+	  ! command -v gtk-update-icon-cache >/dev/null || gtk-update-icon-cache -q -t -f "$(PREFIX)/share/icons/hicolor"; \
+	fi
+
+deb: programs
+	cd build && cpack -G DEB
+	@echo "Pacote: $$(ls -t $(CURDIR)/build/pilarix_*.deb | head -n 1)"
 
 clean:
 	rm -rf build build-asan build-bench

@@ -1,6 +1,8 @@
-// Pilarix Normal: the window, or with "--screenshot FILE.png [PROJECT] [--tela LxA]"
-// a picture of it after one calculation.
+// Pilarix Normal: the window, opening the project given (a double click on it), or
+// with "--screenshot FILE.png [PROJECT] [--tela LxA]" a picture of it after one
+// calculation.
 
+#include "ui/arguments.h"
 #include "ui/main_window.h"
 #include "ui/screenshot.h"
 
@@ -8,6 +10,7 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QStyleFactory>
+#include <QTimer>
 #include <QTranslator>
 
 #include <iostream>
@@ -24,24 +27,19 @@ int main(int argc, char* argv[])
         QApplication::installTranslator(&qtbase);
     QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
 
-    const QStringList args = QApplication::arguments();
-    if (args.size() >= 2 && args.at(1) == QStringLiteral("--screenshot")) {
-        QStringList resto = args.mid(2);
-        QSize tela;
-        if (const auto i = resto.indexOf(QStringLiteral("--tela")); i >= 0 && i + 1 < resto.size()) {
-            const QStringList lados = resto.at(i + 1).split(QLatin1Char('x'));
-            if (lados.size() == 2)
-                tela = QSize(lados[0].toInt(), lados[1].toInt());
-            resto.remove(i, 2);
-        }
-        if (resto.isEmpty() || resto.size() > 2 || (args.contains(QStringLiteral("--tela")) && !tela.isValid())) {
-            std::cerr << "uso: pilarix [--screenshot ARQUIVO.png [PROJETO] [--tela LARGURAxALTURA]]\n";
-            return 2;
-        }
-        return pilarix::ui::salvaImagemDaJanela(resto.at(0), resto.size() == 2 ? resto.at(1) : QString(), tela);
+    const pilarix::ui::Argumentos args = pilarix::ui::leArgumentos(QApplication::arguments().mid(1));
+    if (!args.valido) {
+        std::cerr << pilarix::ui::kUsoDaJanela << "\n";
+        return 2;
     }
+    if (!args.imagem.isEmpty())
+        return pilarix::ui::salvaImagemDaJanela(args.imagem, args.projeto, args.tela);
     pilarix::ui::MainWindow janela;
     janela.inicia();
     janela.show();
+    // Opened once the window is on screen, so that a message about the file has it
+    // behind.
+    if (!args.projeto.isEmpty())
+        QTimer::singleShot(0, &janela, [&janela, &args] { janela.abreArquivo(args.projeto); });
     return app.exec();
 }
