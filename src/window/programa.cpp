@@ -121,6 +121,10 @@ void Program::programa0Passes()
     MensagensDoCalculo.clear();
     metodo.Recalcula = engine::Recalculation::No;
     Form1.Image1Visible = false;
+    // Whatever stops this calculation, Ler02 included, nothing of the one before
+    // stays on show.
+    Desenho.reset();
+    Zera31();
 
     std::feclearexcept(FE_ALL_EXCEPT);
     Ler02();
@@ -149,7 +153,7 @@ void Program::passeInterativo()
         Resultado = engine::calculate(Entrada, perguntas, memoria, metodo);
     const engine::ColumnResult& r = *Resultado;
     if (r.dLinhaText)
-        Form1.Text3.Text = *r.dLinhaText;
+        reescreveDLinha(*r.dLinhaText);
     if (r.failure) {
         falhaDeCalculo(*r.failure);
         return;
