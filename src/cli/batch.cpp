@@ -1,11 +1,11 @@
 #include "cli/batch.h"
 
 #include "base/number_text.h"
+#include "files/safe_write.h"
 
 #include <algorithm>
 #include <atomic>
 #include <cmath>
-#include <fstream>
 #include <ostream>
 #include <thread>
 
@@ -80,7 +80,6 @@ void writeBatchTable(const std::vector<BatchRow>& rows, std::ostream& out)
 
 bool writeBatchCsv(const std::string& path, const std::vector<BatchRow>& rows, std::ostream& err)
 {
-    std::ofstream f(path, std::ios::binary | std::ios::trunc);
     auto campo = [](std::string s) {
         // A field holding the separator or a quote goes in quotes.
         if (s.find_first_of(";\"\n") == std::string::npos)
@@ -90,19 +89,20 @@ bool writeBatchCsv(const std::string& path, const std::vector<BatchRow>& rows, s
             q += c == '"' ? std::string("\"\"") : std::string(1, c);
         return q + "\"";
     };
+    std::string f;
     for (std::size_t k = 0; k < kColunas.size(); ++k)
-        f << kColunas[k] << (k + 1 < kColunas.size() ? ";" : "\r\n");
+        f += kColunas[k] + (k + 1 < kColunas.size() ? ";" : "\r\n");
     for (const auto& r : rows) {
         std::vector<std::string> l{r.arquivo};
         l.insert(l.end(), r.valores.begin(), r.valores.end());
         l.resize(kColunas.size() - 1);
         l.push_back(r.resultado);
         for (std::size_t k = 0; k < l.size(); ++k)
-            f << campo(l[k]) << (k + 1 < l.size() ? ";" : "\r\n");
+            f += campo(l[k]) + (k + 1 < l.size() ? ";" : "\r\n");
     }
-    f.close();
-    if (!f) {
-        err << "pilarix-cli: não foi possível gravar o resumo em \"" << path << "\"\n";
+    std::string error;
+    if (!files::writeFileWhole(path, f, error)) {
+        err << "pilarix-cli: " << error << "\n";
         return false;
     }
     return true;

@@ -1,8 +1,9 @@
 #include "cli/case_list.h"
 
 #include "base/number_text.h"
+#include "files/bounded_read.h"
+#include "files/field_reader.h"
 
-#include <fstream>
 #include <sstream>
 
 namespace pilarix::cli {
@@ -71,11 +72,13 @@ bool parseCase(const std::string& text, CasoDeCarga& out, std::string& error)
 
 bool readCasesFile(const std::string& path, std::vector<CasoDeCarga>& out, std::string& error)
 {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
-        error = "não foi possível ler os casos de \"" + path + "\"";
+    std::string bytes, why;
+    if (!files::readBoundedFile(path, files::kMaxInputBytes, bytes, why)) {
+        error = "não foi possível ler os casos de \"" + path + "\": " + why;
         return false;
     }
+    // In the encoding a project file is read in: UTF-8, or else Windows-1252.
+    std::istringstream in(textoUtf8(bytes));
     std::string header;
     if (!std::getline(in, header)) {
         error = "\"" + path + "\" está vazio: falta a linha de título (nome;Nd;Md)";

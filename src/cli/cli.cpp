@@ -350,6 +350,15 @@ nlohmann::ordered_json documentJson(const Program& program, const PolicyDialogs&
 }
 
 namespace {
+// A file's name is not always UTF-8 (a name made on an older system, "n\xe3o.txt"),
+// and JSON holds only UTF-8: such bytes come out as U+FFFD. Every text Pilarix
+// takes in is UTF-8 already (the project files are converted on reading, --set and
+// --caso refuse anything else).
+std::string dumpJson(const nlohmann::ordered_json& doc, int indent)
+{
+    return doc.dump(indent, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
+}
+
 bool endsWith(std::string name, const std::string& suffix)
 {
     for (auto& c : name)
@@ -443,12 +452,12 @@ ProjectRun runProject(const cli::Options& o, const std::string& given, const std
         if (o.json) {
             nlohmann::ordered_json doc{{"arquivo", file}};
             doc.update(documentJson(program, dialogs, o.melhor));
-            out << doc.dump() << "\n";
+            out << dumpJson(doc, -1) << "\n";
         }
     } else if (!o.json) {
         report(program, dialogs, out);
     } else {
-        out << documentJson(program, dialogs, o.melhor).dump(2) << "\n";
+        out << dumpJson(documentJson(program, dialogs, o.melhor), 2) << "\n";
     }
     r.out = out.str();
     r.err = err.str();

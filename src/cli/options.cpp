@@ -1,5 +1,7 @@
 #include "cli/options.h"
 
+#include "files/record_text.h"
+
 namespace pilarix::cli {
 
 const char* const kUsage =
@@ -11,9 +13,16 @@ bool parseOptions(const std::vector<std::string>& args, Options& o, std::string&
 {
     for (std::size_t i = 0; i < args.size(); ++i) {
         const std::string& a = args[i];
+        // A value is never another option: "--salvar --json" would otherwise save
+        // to a file named "--json". Such a file is named "./--json".
         auto next = [&](std::string& v) {
             if (i + 1 >= args.size()) {
                 error = a + " precisa de um valor";
+                return false;
+            }
+            if (args[i + 1].rfind("--", 0) == 0) {
+                error = a + " precisa de um valor, e \"" + args[i + 1]
+                        + "\" é uma opção (um arquivo com esse nome se escreve \"./" + args[i + 1] + "\")";
                 return false;
             }
             v = args[++i];
@@ -32,6 +41,12 @@ bool parseOptions(const std::vector<std::string>& args, Options& o, std::string&
             const auto eq = v.find('=');
             if (eq == std::string::npos || eq == 0) {
                 error = "--set espera CONTROLE=VALOR, não \"" + v + "\"";
+                return false;
+            }
+            if (!files::isUtf8(v)) {
+                error = "--set " + v.substr(0, eq)
+                        + ": o valor não é texto UTF-8, e uma caixa só guarda texto UTF-8 (no arquivo do projeto e"
+                          " no JSON)";
                 return false;
             }
             o.sets.emplace_back(v.substr(0, eq), v.substr(eq + 1));
@@ -55,6 +70,11 @@ bool parseOptions(const std::vector<std::string>& args, Options& o, std::string&
                    || a == "--csv") {
             if (!next(v))
                 return false;
+            if (a == "--caso" && !files::isUtf8(v)) {
+                error = "--caso: o texto não é UTF-8, e o nome de um caso só se guarda em UTF-8 (no arquivo do"
+                        " projeto e no JSON)";
+                return false;
+            }
             if (a == "--caso")
                 o.cases.push_back(v);
             else

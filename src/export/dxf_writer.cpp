@@ -2,6 +2,8 @@
 
 #include "export/drawing_layout.h"
 #include "export/save_failure.h"
+#include "files/bounded_read.h"
+#include "files/safe_write.h"
 
 #include <dl_dxf.h>
 
@@ -12,6 +14,9 @@
 #include <filesystem>
 #include <memory>
 #include <system_error>
+
+#include <stdlib.h>
+#include <unistd.h>
 
 namespace pilarix::exporting {
 
@@ -352,6 +357,9 @@ void writeObjects(DL_WriterA& w)
     w.sectionEnd();
 }
 
+// A drawing of one section is a few tens of kB; the bound only stops a runaway.
+constexpr std::size_t kMaxDxfBytes = std::size_t{64} << 20;
+
 // Removes the half-written file if the writing stops before it is put in place.
 struct TemporaryFile {
     std::string path;
@@ -412,10 +420,24 @@ bool writeDxf(const engine::SectionGeometry& g, const std::string& path, std::st
         error = saveFailure(path, obstacle);
         return false;
     }
+    if (const std::string why = files::notARegularFile(path); !why.empty()) {
+        error = saveFailure(path, why);
+        return false;
+    }
 
-    // Written beside the target and put in its place only when complete: a failed
-    // export leaves the engineer's previous drawing as it was.
-    TemporaryFile temporary{path + ".pilarix-tmp"};
+    // dxflib writes to a named file: a scratch file beside the target, whose bytes
+    // then go into place whole (files/safe_write.h), so that a failed export leaves
+    // the engineer's previous drawing as it was.
+    std::string scratch = std::filesystem::path(path).parent_path().string();
+    scratch = (scratch.empty() ? std::string(".") : scratch) + "/.dxf.pilarix-XXXXXX";
+    errno = 0;
+    const int fd = ::mkstemp(scratch.data());
+    if (fd < 0) {
+        error = saveFailure(path, errno ? errno : EACCES);
+        return false;
+    }
+    ::close(fd);
+    TemporaryFile temporary{scratch};
     DL_Dxf dxf;
     errno = 0;
     std::unique_ptr<DL_WriterA> w(dxf.out(temporary.path.c_str(), DL_VERSION_2000));
@@ -436,14 +458,12 @@ bool writeDxf(const engine::SectionGeometry& g, const std::string& path, std::st
         error = saveFailure(path, writeErrno ? writeErrno : ENOSPC);
         return false;
     }
-    std::error_code ec;
-    std::filesystem::rename(temporary.path, path, ec);
-    if (ec) {
-        error = saveFailure(path, ec.value());
+    std::string bytes, why;
+    if (!files::readBoundedFile(temporary.path, kMaxDxfBytes, bytes, why)) {
+        error = saveFailure(path, why);
         return false;
     }
-    temporary.keep = true;
-    return true;
+    return files::writeFileWhole(path, bytes, error);
 }
 
 } // namespace pilarix::exporting

@@ -45,7 +45,9 @@ std::string saveFailure(const std::string& path, int errnum)
     case ENOTDIR: reason = "uma parte do caminho não é uma pasta"; break;
     case EACCES:
     case EPERM: reason = "sem permissão de escrita"; break;
-    case ENOSPC: reason = "não há espaço no disco"; break;
+    case ENOSPC:
+    case EDQUOT: reason = "não há espaço no disco"; break;
+    case EFBIG: reason = "o arquivo passaria do tamanho que o sistema permite"; break;
     case EROFS: reason = "o disco só permite leitura"; break;
     case ENAMETOOLONG: reason = "o nome é longo demais"; break;
     case 0: reason = "erro de gravação"; break;

@@ -5,9 +5,13 @@
 
 #include "engine/catalogue.h"
 #include "base/number_text.h"
+#include "files/bounded_read.h"
 #include "files/field_reader.h"
+#include "files/record_text.h"
+#include "files/safe_write.h"
 
 #include <array>
+#include <optional>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
@@ -193,96 +197,39 @@ const std::array<Registro, kRegistros>& registros()
     return tabela;
 }
 
-std::string motivo(const std::error_code& ec)
-{
-    switch (static_cast<std::errc>(ec.value())) {
-    case std::errc::no_such_file_or_directory:
-        return "o arquivo ou a pasta não existe";
-    case std::errc::permission_denied:
-    case std::errc::operation_not_permitted:
-        return "sem permissão de acesso";
-    case std::errc::is_a_directory:
-        return "o nome é de uma pasta";
-    case std::errc::read_only_file_system:
-        return "o disco é somente leitura";
-    case std::errc::no_space_on_device:
-        return "o disco está cheio";
-    default:
-        return ec.message();
-    }
-}
-
 std::string aspas(const std::string& s) { return "\"" + s + "\""; }
-
-// Writes the records of the forms; false with the reason in ErroArquivo when the
-// file cannot be written.
-bool gravaRegistros(const Forms& origem, const std::vector<std::string>& extras, const std::string& nome,
-                    std::string& erro)
-{
-    std::string texto;
-    for (const auto& r : registros())
-        texto += r.valor(origem) + "\r\n";
-    for (const auto& e : extras)
-        texto += e + "\r\n";
-
-    std::error_code ec;
-    if (std::filesystem::is_directory(std::filesystem::path(nome), ec)) {
-        erro = "Não foi possível gravar o arquivo " + aspas(nome) + ": o nome é de uma pasta.";
-        return false;
-    }
-    errno = 0;
-    std::ofstream out(nome, std::ios::binary | std::ios::trunc);
-    if (!out) {
-        const int e = errno != 0 ? errno : EACCES;
-        erro = "Não foi possível gravar o arquivo " + aspas(nome) + ": " + motivo({e, std::generic_category()})
-               + ".";
-        return false;
-    }
-    out.write(texto.data(), static_cast<std::streamsize>(texto.size()));
-    out.close();
-    if (!out) {
-        erro = "Não foi possível gravar o arquivo " + aspas(nome) + ": a gravação foi interrompida.";
-        return false;
-    }
-    return true;
-}
 
 // Reads the fields of a file; false with the reason when it cannot be read.
 bool leCampos(const std::string& nome, std::vector<std::string>& campos, std::string& erro)
 {
-    const std::filesystem::path caminho(nome);
-    std::error_code ec;
-    if (std::filesystem::is_directory(caminho, ec)) {
-        erro = "Não foi possível ler o arquivo " + aspas(nome) + ": o nome é de uma pasta.";
+    std::string bytes, porque;
+    if (!files::readBoundedFile(nome, files::kMaxInputBytes, bytes, porque)) {
+        erro = "Não foi possível ler o arquivo " + aspas(nome) + ": " + porque + ".";
         return false;
     }
-    errno = 0;
-    std::ifstream in(nome, std::ios::binary);
-    if (!in) {
-        const int e = errno != 0 ? errno : ENOENT;
-        erro = "Não foi possível ler o arquivo " + aspas(nome) + ": " + motivo({e, std::generic_category()}) + ".";
-        return false;
-    }
-    std::ostringstream bytes;
-    bytes << in.rdbuf();
-    if (in.bad()) {
-        erro = "Não foi possível ler o arquivo " + aspas(nome) + ": a leitura foi interrompida.";
-        return false;
-    }
-    campos = camposDelimitados(textoUtf8(bytes.str()));
+    campos = camposDelimitados(textoUtf8(bytes));
     return true;
 }
 
-// ---- the records after the 39: load cases and the fixed bar ----
+// ---- the records after the 39: load cases, the fixed bar, d' ----
 //
-// A project of one case and no fixed bar ends at record 39, byte for byte as it
-// always has, and a reader that stops there still reads it. After them:
+// A project of one case, no fixed bar, "d' automático" clear and d' as typed ends at
+// record 39, byte for byte as it always has, and a reader that stops there still
+// reads it. After them:
 //   Caso;NOME                 the name of the first case (its forces are records 12, 13)
 //   Caso;NOME;Nd;Md           each further case, its forces as typed in Nd's and Md's units
+//   Caso%;NOME...             the same, the name %-encoded (it holds ';', ',', '"', '%',
+//                             a line break or blanks at its ends)
 //   Bitola fixa;16 mm (5/8'')  the longitudinal bar fixed with "Automático" clear
+//   d' automático;1           "d' automático f(cobrimento)" (Check3) ticked (1 or 2)
+//   d' digitado;VALOR         d' as it stood before the calculation rewrote record 8,
+//                             %-encoded; it goes back into the d' box on loading
 
 constexpr const char* kCaso = "Caso";
+constexpr const char* kCasoCodificado = "Caso%";
 constexpr const char* kBitolaFixa = "Bitola fixa";
+constexpr const char* kDAutomatico = "d' automático";
+constexpr const char* kDDigitado = "d' digitado";
 
 std::vector<std::string> partes(const std::string& s)
 {
@@ -297,23 +244,64 @@ std::vector<std::string> partes(const std::string& s)
     }
 }
 
-std::vector<std::string> registrosExtras(const Program& p)
+// True while the d' box holds what the last calculation wrote or, after loading,
+// what it started from: the file then keeps both (record 8 and "d' digitado").
+// A d' typed since is the engineer's own, and record 8 alone keeps it.
+bool dLinhaReescrita(const Program& p)
 {
-    std::vector<std::string> e;
+    const std::string& caixa = p.Form1.Text3.Text;
+    return p.DLinhaDigitado && *p.DLinhaDigitado != p.DLinhaReescrito
+           && (caixa == p.DLinhaReescrito || caixa == *p.DLinhaDigitado);
+}
+
+// "Caso;NOME..." or, for a name the plain record would not give back, "Caso%;...".
+std::string registroDeCaso(const std::string& nome, const std::string& resto)
+{
+    if (files::needsPercent(nome))
+        return std::string(kCasoCodificado) + ";" + files::percentEncoded(nome) + resto;
+    return std::string(kCaso) + ";" + nome + resto;
+}
+
+// The records after the 39; false, naming the case and the value, for a case that
+// no file can give back.
+bool registrosExtras(const Program& p, std::vector<std::string>& e, std::string& erro)
+{
     if (!p.OutrosCasos.empty()) {
-        e.push_back(std::string(kCaso) + ";" + p.NomeDoCaso1);
-        for (const auto& c : p.OutrosCasos)
-            e.push_back(std::string(kCaso) + ";" + c.nome + ";" + c.nd + ";" + c.md);
+        auto recusa = [&](const std::string& porque) {
+            erro = "Não foi possível gravar o arquivo " + aspas(p.NomeArquivo) + ": " + porque + ".";
+            return false;
+        };
+        for (std::size_t k = 0; k <= p.OutrosCasos.size(); ++k) {
+            const std::string& nome = k == 0 ? p.NomeDoCaso1 : p.OutrosCasos[k - 1].nome;
+            if (nome.empty())
+                return recusa("o caso de carga " + std::to_string(k + 1) + " não tem nome");
+            if (!files::isUtf8(nome))
+                return recusa("o nome do caso de carga " + std::to_string(k + 1) + " não é texto UTF-8");
+        }
+        e.push_back(registroDeCaso(p.NomeDoCaso1, ""));
+        for (const auto& c : p.OutrosCasos) {
+            for (const std::string* v : {&c.nd, &c.md})
+                if (!IsNumber(*v))
+                    return recusa(std::string(v == &c.nd ? "Nd" : "Md") + " do caso " + aspas(c.nome) + " é "
+                                  + aspas(*v) + ", que não é um número com ponto decimal");
+            e.push_back(registroDeCaso(c.nome, ";" + c.nd + ";" + c.md));
+        }
     }
     if (p.BitolaFixa != 0)
         e.push_back(std::string(kBitolaFixa) + ";" + std::string(engine::bar(p.BitolaFixa).label));
-    return e;
+    if (p.Form1.Check3.Value != 0)
+        e.push_back(std::string(kDAutomatico) + ";" + std::to_string(p.Form1.Check3.Value));
+    if (dLinhaReescrita(p))
+        e.push_back(std::string(kDDigitado) + ";" + files::percentEncoded(*p.DLinhaDigitado));
+    return true;
 }
 
 struct Extras {
     std::string nomeDoCaso1 = "1";
     std::vector<CasoDeCarga> casos;
     int bitolaFixa = 0;
+    int dAutomatico = 0;
+    std::optional<std::string> dDigitado;
 };
 
 // The records after the 39, or the first that is broken, told in `erro`.
@@ -325,11 +313,20 @@ Extras leExtras(const std::vector<std::string>& campos, const std::string& nome,
         const std::string& v = campos[i];
         if (v.empty())
             continue;
-        const auto p = partes(v);
+        auto p = partes(v);
         auto quebrado = [&](const std::string& porque) {
             erro = "Arquivo " + aspas(nome) + ", registro " + std::to_string(i + 1) + " " + aspas(v) + ": " + porque
                    + ". Nenhum valor foi carregado.";
         };
+        if (p[0] == kCasoCodificado && p.size() >= 2) {
+            if (auto decodificado = files::percentDecoded(p[1]); decodificado && files::isUtf8(*decodificado)) {
+                p[0] = kCaso;
+                p[1] = *decodificado;
+            } else {
+                quebrado("o nome do caso de carga tem um % que não é seguido de dois algarismos hexadecimais");
+                continue;
+            }
+        }
         if (p[0] == kCaso) {
             if (primeiroCaso && p.size() == 2 && !p[1].empty()) {
                 x.nomeDoCaso1 = p[1];
@@ -349,8 +346,20 @@ Extras leExtras(const std::vector<std::string>& campos, const std::string& nome,
                 quebrado("a bitola fixada deve ser uma das barras longitudinais, de \"10 mm (3/8'')\" a \"40 mm\"");
             else
                 x.bitolaFixa = k;
+        } else if (p[0] == kDAutomatico) {
+            if (p.size() != 2 || (p[1] != "1" && p[1] != "2"))
+                quebrado("\"d' automático\" marcado se grava como d' automático;1 (ou 2)");
+            else
+                x.dAutomatico = p[1][0] - '0';
+        } else if (p[0] == kDDigitado) {
+            const auto d = p.size() == 2 ? files::percentDecoded(p[1]) : std::nullopt;
+            if (!d || !files::isUtf8(*d))
+                quebrado("o d' digitado se grava como d' digitado;VALOR, com % e dois algarismos hexadecimais");
+            else
+                x.dDigitado = *d;
         } else {
-            quebrado("depois dos 39 registros vêm só casos de carga (Caso;...) e a bitola fixada (Bitola fixa;...)");
+            quebrado("depois dos 39 registros vêm só casos de carga (Caso;...), a bitola fixada (Bitola fixa;...)"
+                     " e o d' (d' automático;... e d' digitado;...)");
         }
     }
     if (erro.empty() && !primeiroCaso && x.casos.empty())
@@ -401,6 +410,62 @@ std::string validaCampos(const std::vector<std::string>& campos, const std::stri
     return {};
 }
 
+// The text of the file for the forms' records and the records after them; empty,
+// with the box and the value in `erro`, when a value has no record that reads back.
+std::string textoDoArquivo(const Forms& origem, const std::vector<std::string>& extras, const std::string& nome,
+                           std::string& erro)
+{
+    std::string texto;
+    for (const auto& r : registros()) {
+        const std::string valor = r.valor(origem);
+        // A check box's number keeps the sign's place the reader drops.
+        std::string porque;
+        const auto registro = r.tipo == Tipo::Caixa ? std::optional<std::string>(valor)
+                                                    : files::recordText(valor, porque);
+        if (!registro) {
+            erro = "Não foi possível gravar o arquivo " + aspas(nome) + ": o valor " + aspas(valor) + " de "
+                   + r.controle + " " + porque + " e não seria lido de volta.";
+            return {};
+        }
+        texto += *registro + "\r\n";
+    }
+    for (const auto& e : extras)
+        texto += e + "\r\n";
+    return texto;
+}
+
+// Writes the records of the forms, whole or not at all; false with the reason in
+// `erro` when the file cannot be written or would not load back as it stands.
+bool gravaRegistros(const Forms& origem, const std::vector<std::string>& extras, const std::string& nome,
+                    std::string& erro)
+{
+    const std::string texto = textoDoArquivo(origem, extras, nome, erro);
+    if (!erro.empty())
+        return false;
+    // What is written is read back first as a file is read: a project that would
+    // not load, or would load other values, is not written at all.
+    const auto campos = camposDelimitados(textoUtf8(texto));
+    std::string lido = validaCampos(campos, nome);
+    for (std::size_t i = 0; lido.empty() && i < kRegistros; ++i) {
+        std::string valor = registros()[i].valor(origem);
+        if (registros()[i].tipo == Tipo::Caixa && !valor.empty() && valor.front() == ' ')
+            valor.erase(0, 1); // the sign's place
+        if (campos[i] != valor)
+            lido = "o valor " + aspas(valor) + " de " + registros()[i].controle + " seria lido como "
+                   + aspas(campos[i]);
+    }
+    if (lido.empty())
+        leExtras(campos, nome, lido);
+    if (!lido.empty()) {
+        const std::string fim = " Nenhum valor foi carregado.";
+        if (lido.size() >= fim.size() && lido.compare(lido.size() - fim.size(), fim.size(), fim) == 0)
+            lido.erase(lido.size() - fim.size());
+        erro = "Não foi possível gravar o arquivo " + aspas(nome) + ", que não seria lido de volta: " + lido;
+        return false;
+    }
+    return files::writeFileWhole(nome, texto, erro);
+}
+
 void mostraErroDeArquivo(Program& p)
 {
     p.metodo.MensagemErro = p.ErroArquivo;
@@ -413,7 +478,11 @@ void mostraErroDeArquivo(Program& p)
 void Program::Grava32()
 {
     ErroArquivo.clear();
-    if (!gravaRegistros(*this, registrosExtras(*this), NomeArquivo, ErroArquivo))
+    std::vector<std::string> extras;
+    Forms formulario = *this;
+    if (dLinhaReescrita(*this))
+        formulario.Form1.Text3.Text = DLinhaReescrito;
+    if (!registrosExtras(*this, extras, ErroArquivo) || !gravaRegistros(formulario, extras, NomeArquivo, ErroArquivo))
         mostraErroDeArquivo(*this);
 }
 
@@ -437,6 +506,14 @@ void Program::Carrega33()
     NomeDoCaso1 = extras.nomeDoCaso1;
     OutrosCasos = extras.casos;
     BitolaFixa = extras.bitolaFixa;
+    Form1.Check3.Value = extras.dAutomatico;
+    // The next calculation starts where the saved one did; saved again before it,
+    // the file is the same.
+    if (extras.dDigitado) {
+        DLinhaReescrito = Form1.Text3.Text;
+        DLinhaDigitado = extras.dDigitado;
+        Form1.Text3.Text = *extras.dDigitado;
+    }
 }
 
 void Program::Form_Load()

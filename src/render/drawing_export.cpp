@@ -4,6 +4,7 @@
 #include "export/drawing_layout.h"
 #include "export/dxf_writer.h"
 #include "export/save_failure.h"
+#include "files/safe_write.h"
 #include "render/section_painter.h"
 #include "render/whole_file.h"
 
@@ -66,6 +67,10 @@ bool ready(const engine::SectionGeometry& g, const std::string& path, double sca
     }
     if (const int obstacle = exporting::obstacleToSaving(path)) {
         error = exporting::saveFailure(path, obstacle);
+        return false;
+    }
+    if (const std::string why = files::notARegularFile(path); !why.empty()) {
+        error = exporting::saveFailure(path, why);
         return false;
     }
     return true;

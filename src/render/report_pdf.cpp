@@ -8,6 +8,7 @@
 #include "base/number_text.h"
 #include "export/drawing_layout.h"
 #include "export/save_failure.h"
+#include "files/safe_write.h"
 #include "render/section_painter.h"
 #include "render/whole_file.h"
 
@@ -627,6 +628,10 @@ bool writeReportPdf(const report::ReportData& r, const std::string& path, std::s
     }
     if (const int obstacle = exporting::obstacleToSaving(path)) {
         error = exporting::saveFailure(path, obstacle);
+        return false;
+    }
+    if (const std::string why = files::notARegularFile(path); !why.empty()) {
+        error = exporting::saveFailure(path, why);
         return false;
     }
     std::string why;

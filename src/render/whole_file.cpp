@@ -1,31 +1,17 @@
 #include "render/whole_file.h"
 
-#include "export/save_failure.h"
+#include "files/safe_write.h"
 
-#include <QSaveFile>
-
-#include <cerrno>
+#include <string_view>
 
 namespace pilarix::render {
 
 bool saveWholeFile(const QByteArray& bytes, const std::string& path, std::string& error)
 {
-    QSaveFile file(QString::fromStdString(path));
-    errno = 0;
-    const bool ok = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-    if (ok)
-        return true;
-    const int errnum = errno;
-    switch (file.error()) {
-    case QFileDevice::PermissionsError: error = exporting::saveFailure(path, EACCES); break;
-    case QFileDevice::ResourceError: error = exporting::saveFailure(path, ENOSPC); break;
-    default:
-        error = errnum ? exporting::saveFailure(path, errnum)
-                       : exporting::saveFailure(path, "erro de gravação (" + file.errorString().toStdString() + ")");
-        break;
-    }
-    file.cancelWriting();
-    return false;
+    // The name goes to the system as the bytes it was given: a name that is not
+    // UTF-8 would not survive a QString.
+    return files::writeFileWhole(path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())),
+                                 error);
 }
 
 } // namespace pilarix::render

@@ -172,6 +172,13 @@ public:
     // The longitudinal bar clicked in "Bitola" with "Automático" clear (catalogue
     // index 4 to 11); 0 when none is fixed.
     int BitolaFixa = 0;
+    // d' as the box held it before a calculation rewrote it (the cover correction,
+    // "d' automático"), and what the calculation wrote: a project saved after the
+    // calculation keeps the first, so that, loaded, it calculates from where this
+    // calculation started (files/project_file.cpp).
+    std::optional<std::string> DLinhaDigitado;
+    std::string DLinhaReescrito;
+    void reescreveDLinha(const std::string& texto);
     // Every case of the last calculation with several (empty with one case).
     std::vector<ResultadoDoCaso> ResultadosDosCasos;
     // The cases in the program's units, the first from Nd and Md as Ler02 read them.

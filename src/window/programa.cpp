@@ -135,6 +135,10 @@ void Program::programa0Passes()
     MensagensDoCalculo.clear();
     metodo.Recalcula = engine::Recalculation::No;
     Form1.Image1Visible = false;
+    // Whatever stops this calculation, Ler02 included, nothing of the one before
+    // stays on show.
+    Desenho.reset();
+    Zera31();
 
     // Input outside what a column can be is refused before anything is read or
     // corrected, in the window and on the command line alike.
@@ -169,7 +173,7 @@ void Program::passeInterativo()
         Resultado = engine::calculate(Entrada, perguntas, memoria, metodo);
     const engine::ColumnResult& r = *Resultado;
     if (r.dLinhaText)
-        Form1.Text3.Text = *r.dLinhaText;
+        reescreveDLinha(*r.dLinhaText);
     if (r.failure) {
         falhaDeCalculo(*r.failure);
         return;

@@ -23,6 +23,8 @@ void Program::Zera31()
     Resultado.reset();
     Verificacao.reset();
     ResultadosDosCasos.clear();
+    DLinhaDigitado.reset();
+    DLinhaReescrito.clear();
 }
 
 void Program::LimpaResultados()

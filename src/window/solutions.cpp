@@ -132,6 +132,10 @@ void buscaMelhorSolucao(Program& p)
     limpaLista(p.Form11);
     p.Form11.Rows[0].Option.Value = true;
     botoesDaLista(f, false);
+    // A search stopped by the input shows nothing of the calculation before it.
+    p.Desenho.reset();
+    ++p.VersaoDoDesenho;
+    p.Zera31();
 
     leEntrada(p);
 
@@ -179,7 +183,7 @@ void buscaMelhorSolucao(Program& p)
             p.nBase = r.lastBarsOnWidthFace;
         }
         if (r.dLinhaText)
-            f.Text3.Text = *r.dLinhaText;
+            p.reescreveDLinha(*r.dLinhaText);
         if (r.failure)
             throw CalcError(*r.failure);
         for (const auto& s : r.found)
