@@ -8,6 +8,9 @@
 #include "base/number_text.h"
 
 #include <cctype>
+#include <chrono>
+#include <iostream>
+#include <optional>
 #include <cmath>
 #include <filesystem>
 #include <algorithm>
@@ -15,6 +18,29 @@
 #include <sstream>
 
 namespace pilarix {
+
+namespace {
+// A search that runs longer than a second says on standard error how far it has
+// gone, once a second: whoever waits for it sees that it works.
+class ProgressOnStderr : public PolicyDialogs {
+public:
+    bool searchProgress(double done, double total) override
+    {
+        const auto now = std::chrono::steady_clock::now();
+        if (!started_)
+            started_ = now;
+        if (now - *started_ >= std::chrono::seconds(1) && (!told_ || now - *told_ >= std::chrono::seconds(1))) {
+            told_ = now;
+            std::cerr << "pilarix-cli: busca da melhor solução: " << static_cast<long long>(done) << " de "
+                      << static_cast<long long>(total) << " arranjos" << std::endl;
+        }
+        return true;
+    }
+
+private:
+    std::optional<std::chrono::steady_clock::time_point> started_, told_;
+};
+} // namespace
 
 namespace {
 // The program's one-letter flags, as it has always listed them.
@@ -406,7 +432,7 @@ ProjectRun runProject(const cli::Options& o, const std::string& given, const std
         return r;
     };
 
-    PolicyDialogs dialogs;
+    ProgressOnStderr dialogs;
     dialogs.coverAnswer = o.cobrimento;
     dialogs.stirrupOption = o.estribo;
     Program program(dialogs);
@@ -425,6 +451,8 @@ ProjectRun runProject(const cli::Options& o, const std::string& given, const std
             return stop("--set " + name + "=" + value + ": " + error);
     cli::applyCases(program, cases);
 
+    if (o.limiteBusca >= 0)
+        program.LimiteDaBusca = o.limiteBusca;
     if (o.melhor)
         program.Command8_Click();
     else

@@ -6,7 +6,7 @@ namespace pilarix::cli {
 
 const char* const kUsage =
     "uso: pilarix-cli [ARQUIVO...] [--set CONTROLE=VALOR]... [--caso \"NOME;Nd;Md\"]... [--casos CASOS.csv] "
-    "[--melhor] [--cobrimento 1|2] [--estribo K] [--salvar SAIDA] [--desenho SAIDA.dxf|.svg|.png] "
+    "[--melhor] [--limite-busca N] [--cobrimento 1|2] [--estribo K] [--salvar SAIDA] [--desenho SAIDA.dxf|.svg|.png] "
     "[--memorial SAIDA.pdf] [--csv RESUMO.csv] [--sem-padrao] [--json]";
 
 bool parseOptions(const std::vector<std::string>& args, Options& o, std::string& error)
@@ -58,6 +58,14 @@ bool parseOptions(const std::vector<std::string>& args, Options& o, std::string&
                 return false;
             }
             o.cobrimento = v[0] - '0';
+        } else if (a == "--limite-busca") {
+            if (!next(v))
+                return false;
+            if (v.empty() || v.size() > 12 || v.find_first_not_of("0123456789") != std::string::npos) {
+                error = "--limite-busca aceita um número inteiro de arranjos (0 para nenhum limite), não \"" + v + "\"";
+                return false;
+            }
+            o.limiteBusca = std::stod(v);
         } else if (a == "--estribo") {
             if (!next(v))
                 return false;

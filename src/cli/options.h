@@ -13,6 +13,7 @@ struct Options {
     std::vector<std::string> cases;           // --caso "NOME;Nd;Md", in order
     std::string casesFile;                    // --casos FILE.csv
     bool melhor = false;
+    double limiteBusca = -1; // --limite-busca N: the most arrangements the search tries (0: none); -1 the program's
     int cobrimento = 1;
     int estribo = 4;
     std::string salvar;
