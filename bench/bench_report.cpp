@@ -50,6 +50,25 @@ void BM_Memorial_Pdf(benchmark::State& state)
 }
 BENCHMARK(BM_Memorial_Pdf)->Unit(benchmark::kMillisecond);
 
+// After "Calcula melhor solução": the report lists the 40 lightest arrangements.
+// Target: within 300 ms as the report without them.
+void BM_Memorial_PdfComBusca(benchmark::State& state)
+{
+    PolicyDialogs dialogs;
+    Program p(dialogs);
+    p.Command8_Click();
+    for (auto _ : state) {
+        report::ReportData r;
+        std::string error;
+        report::buildReport(p, kStamp, r, error);
+        if (r.solutions.empty())
+            state.SkipWithError("the search put no list in the report");
+        const QByteArray pdf = render::reportPdf(r, error);
+        benchmark::DoNotOptimize(pdf.data());
+    }
+}
+BENCHMARK(BM_Memorial_PdfComBusca)->Unit(benchmark::kMillisecond);
+
 void BM_Memorial_Arquivo(benchmark::State& state)
 {
     PolicyDialogs dialogs;

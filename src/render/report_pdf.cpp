@@ -395,6 +395,9 @@ public:
                                      QTextLength(QTextLength::FixedLength, layoutMm(40)),
                                      QTextLength(QTextLength::FixedLength, layoutMm(30))});
         const int rows = static_cast<int>(r.solutions.size()) + 1;
+        // One edit for the whole table: the document is laid out once, not again
+        // after each of its 200 cells (seconds for a list of 40).
+        cursor_.beginEditBlock();
         QTextTable* table = cursor_.insertTable(rows, 5, t);
         const auto cell = [&](int row, int column, const std::string& text, bool bold) {
             QTextCursor c = table->cellAt(row, column).firstCursorPosition();
@@ -414,6 +417,7 @@ public:
             cell(i, 3, s.barsOnDepthFace, s.shown);
             cell(i, 4, s.stirrup, s.shown);
         }
+        cursor_.endEditBlock();
         cursor_.movePosition(QTextCursor::End);
     }
 
