@@ -75,3 +75,46 @@ TEST(WindowInput, EveryInputIsPutBackAsItWasRead)
     EXPECT_FALSE(destino.Form1.Text3.Enabled) << "d' automático takes the d' box out of use";
     EXPECT_EQ(destino.OutrosCasos.size(), 2u);
 }
+
+TEST(WindowInput, ImpossibleValuesAreRefusedBeforeAnythingIsCalculated)
+{
+    // Each once gave "Ok" with figures that meant nothing (a negative βx, a negative
+    // weight, a negative area); the same check runs in the window and on the command
+    // line, in the program's units as the box's list makes them.
+    const struct {
+        const char *name, *box, *value;
+        const char* message; // the start of the refusal; none: calculated
+    } rows[] = {
+        {"the defaults", "Text16", "400", nullptr},
+        {"γc absurdly small", "Text21", "0.0001", "A caixa \"γc (coef. do concreto)\" tem 0.0001, fora do que"},
+        {"γs below 1", "Text22", "0.9", "A caixa \"γs (coef. do aço)\" tem 0.9"},
+        {"Es negative", "Text20", "-21000", "A caixa \"Es\" tem -21000 KN/cm2, fora"},
+        {"a negative length", "Text23", "-300", "A caixa \"Comprimento (cm)\" tem -300"},
+        {"bars per face not whole", "Text4", "2.5", "A caixa \"Barras nas faces da base\" tem 2.5"},
+        {"bars per face above 500", "Text5", "501", "A caixa \"Barras nas faces da altura\" tem 501"},
+        {"a base of zero", "Text1", "0", "A caixa \"Base (cm)\" tem 0"},
+        {"a base of 8 cm is raised to 12 by the calculation", "Text1", "8", nullptr},
+        {"Nd beyond any column", "Text16", "1e307", "A caixa \"Nd\" tem 1e307 KN"},
+        {"a tension is a force", "Text16", "-400", nullptr},
+        {"a negative moment is a moment", "Text17", "-10000", nullptr},
+        {"d' past the middle of the section", "Text3", "10", "A caixa \"d' (cm)\" tem 10"},
+        {"a comma is not the command line's point", "Text16", "400,5", "A caixa \"Nd\" tem \"400,5\", que não é"},
+    };
+    for (const auto& r : rows) {
+        PolicyDialogs d;
+        Program p(d);
+        ASSERT_TRUE(restauraEntrada(p, r.box, r.value)) << r.name;
+        const auto m = conferenciaDaEntrada(p);
+        ASSERT_EQ(m.has_value(), r.message != nullptr) << r.name << (m ? ": " + *m : "");
+        if (r.message) {
+            EXPECT_EQ(m->rfind(r.message, 0), 0u) << r.name << ": " << *m;
+            EXPECT_NE(m->find("Nada foi calculado."), std::string::npos) << *m;
+            // The command line's run of "&Calcula" says the same and calculates nothing.
+            p.Command1_Click();
+            EXPECT_EQ(p.Form1.Text30.Text, "erro") << r.name;
+            EXPECT_TRUE(p.Form1.Text11.Text.empty()) << r.name;
+            ASSERT_FALSE(d.records.empty()) << r.name;
+            EXPECT_EQ(d.records.back().mensagem, *m) << r.name;
+        }
+    }
+}
