@@ -30,8 +30,10 @@ std::string trimmed(std::string s)
 
 bool caseFrom(std::vector<std::string> parts, bool decimalComma, CasoDeCarga& out, std::string& error)
 {
-    if (parts.size() != 3) {
-        error = "um caso tem nome, Nd e Md";
+    // Under ABNT NBR 6118:2014 a case may carry the moment of the base and both end
+    // moments in the direction of b.
+    if (parts.size() != 3 && parts.size() != 6) {
+        error = "um caso tem nome, Nd e Md (e, pela ABNT NBR 6118:2014, MdBase, MyTopo e MyBase)";
         return false;
     }
     for (auto& p : parts)
@@ -45,18 +47,26 @@ bool caseFrom(std::vector<std::string> parts, bool decimalComma, CasoDeCarga& ou
         error = "o nome de um caso não pode ter vírgula nem ponto e vírgula";
         return false;
     }
-    for (std::size_t k = 1; k <= 2; ++k) {
+    const char* nomes[] = {"", "Nd", "Md", "MdBase", "MyTopo", "MyBase"};
+    for (std::size_t k = 1; k < parts.size(); ++k) {
         if (decimalComma)
             for (auto& c : parts[k])
                 if (c == ',')
                     c = '.';
+        // An end moment may be left empty: none.
+        if (k >= 3 && parts[k].empty())
+            continue;
         if (!IsNumber(parts[k])) {
-            error = std::string(k == 1 ? "Nd" : "Md") + " do caso \"" + parts[0] + "\" não é um número: \"" + parts[k]
-                    + "\"";
+            error = std::string(nomes[k]) + " do caso \"" + parts[0] + "\" não é um número: \"" + parts[k] + "\"";
             return false;
         }
     }
-    out = {parts[0], parts[1], parts[2]};
+    out = {parts[0], parts[1], parts[2], {}, {}, {}};
+    if (parts.size() == 6) {
+        out.mdBase = parts[3];
+        out.myTopo = parts[4];
+        out.myBase = parts[5];
+    }
     return true;
 }
 } // namespace
@@ -110,6 +120,11 @@ void applyCases(Program& p, const std::vector<CasoDeCarga>& cases)
     p.NomeDoCaso1 = cases[0].nome;
     p.Form1.Text16.Text = cases[0].nd;
     p.Form1.Text17.Text = cases[0].md;
+    if (!cases[0].mdBase.empty() || !cases[0].myTopo.empty() || !cases[0].myBase.empty()) {
+        p.Form1.MdBase.Text = cases[0].mdBase;
+        p.Form1.MyTopo.Text = cases[0].myTopo;
+        p.Form1.MyBase.Text = cases[0].myBase;
+    }
     p.OutrosCasos.assign(cases.begin() + 1, cases.end());
 }
 

@@ -338,6 +338,54 @@ nlohmann::ordered_json mensagensJson(const std::vector<DialogRecord>& records)
     return out;
 }
 
+namespace {
+// One direction of the governing case, in the units of `estado`.
+nlohmann::ordered_json direcaoJson(const engine::Direction2014& d)
+{
+    const engine::DirectionSlenderness& s = d.slenderness;
+    nlohmann::ordered_json j{{"lado", s.side},
+                             {"le", s.effectiveLength},
+                             {"lambda", s.lambda},
+                             {"lambda1", s.lambda1},
+                             {"alfaB", s.alphaB},
+                             {"e1", s.e1},
+                             {"MA", s.MA},
+                             {"MB", s.MB},
+                             {"M1dMin", s.minimumMoment},
+                             {"segundaOrdem", s.secondOrder},
+                             {"M2d", s.secondOrderMoment},
+                             {"MdTot", s.totalMoment},
+                             {"AsNec", d.asNec}};
+    if (std::isfinite(d.utilisation))
+        j["utilizacao"] = d.utilisation;
+    if (s.refusal)
+        j["recusa"] = s.refusal->text;
+    return j;
+}
+} // namespace
+
+nlohmann::ordered_json norma2014Json(const Program& program, const engine::Column2014Result& r)
+{
+    nlohmann::ordered_json j;
+    j["gamaN"] = r.gammaN;
+    if (r.refusal)
+        j["recusa"] = r.refusal->text;
+    if (r.cases.empty())
+        return j;
+    const engine::CaseResult2014& g = r.cases[static_cast<std::size_t>(r.governingCase)];
+    j["NSd"] = g.nSd;
+    j["metodo"] = program.Form1.SegundaOrdem.Text;
+    j["caso"] = g.loadCase.name;
+    j["direcoes"] = {{"h", direcaoJson(g.h)}, {"b", direcaoJson(g.b)}};
+    j["governa"] = std::string(1, r.governingDirection);
+    j["AsNec"] = r.asNec;
+    if (r.detail.designed) {
+        j["AsMin"] = r.detail.asMin;
+        j["AsMax"] = r.detail.asMax;
+    }
+    return j;
+}
+
 nlohmann::ordered_json documentJson(const Program& program, const PolicyDialogs& dialogs, bool melhor)
 {
     nlohmann::ordered_json doc;
@@ -358,6 +406,8 @@ nlohmann::ordered_json documentJson(const Program& program, const PolicyDialogs&
     }
     if (program.Verificacao)
         doc["verificacao"] = verificacaoJson(*program.Verificacao);
+    if (program.norma2014() && program.Resultado2014)
+        doc["norma2014"] = norma2014Json(program, *program.Resultado2014);
     if (!program.ResultadosDosCasos.empty()) {
         nlohmann::ordered_json casos = nlohmann::ordered_json::array();
         for (const auto& c : program.ResultadosDosCasos)

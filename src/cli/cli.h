@@ -28,6 +28,9 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
 // The calculation state, keyed by field name.
 nlohmann::ordered_json estadoJson(const Program& program);
 
+// The object "norma2014" of a calculation by ABNT NBR 6118:2014.
+nlohmann::ordered_json norma2014Json(const Program& program, const engine::Column2014Result& r);
+
 // The whole document of --json: "Erros", "caixas", "estado", the messages the
 // dialogs recorded and, after a search, "solucoes".
 nlohmann::ordered_json documentJson(const Program& program, const PolicyDialogs& dialogs, bool melhor);

@@ -9,7 +9,7 @@ namespace pilarix::cli {
 
 struct Options {
     std::vector<std::string> files;           // one project, or a batch of several
-    std::vector<std::pair<std::string, std::string>> sets;
+    std::vector<std::pair<std::string, std::string>> sets; // --norma Y is the set Norma=Y, in its place
     std::vector<std::string> cases;           // --caso "NOME;Nd;Md", in order
     std::string casesFile;                    // --casos FILE.csv
     bool melhor = false;

@@ -44,7 +44,7 @@ std::vector<Check> recheckArrangement(const FinalArrangement& a)
 
     // The stirrup against the rules of the final bar: the thinnest allowed at the
     // normal spacing, or a thinner one of the bars' own steel at its own spacing.
-    const StirrupRules rules = stirrupRules(a.barDiameter, smaller, a.steel);
+    const StirrupRules rules = stirrupRules(a.barDiameter, smaller, a.steel, a.rules);
     double spacingLimit = rules.spacing;
     if (a.stirrupDiameter + kSlack < rules.minimumDiameter) {
         const int k = stirrupIndex(a.stirrupDiameter);
@@ -59,7 +59,7 @@ std::vector<Check> recheckArrangement(const FinalArrangement& a)
 
     // The bars fit their faces, clear of each other and within the largest spacing.
     const SpacingCheck s = checkSpacing(a.base, a.depth, a.dLinha, a.barsOnWidthFace, a.barsOnDepthFace,
-                                        a.barDiameter, a.aggregate, smaller);
+                                        a.barDiameter, a.aggregate, smaller, true, a.rules);
     failed.insert(failed.end(), s.failures.begin(), s.failures.end());
     return failed;
 }

@@ -11,6 +11,7 @@
 
 #include "engine/checks.h"
 #include "engine/materials.h"
+#include "engine/options.h"
 
 #include <vector>
 
@@ -28,6 +29,7 @@ struct FinalArrangement {
     double aggregate = 0;         // cm, 0 when not given
     SteelGrade steel = SteelGrade::CA50A;
     bool stirrupsOfBarSteel = false; // the same-steel rule holds: thinner stirrups at their own spacing
+    RuleSet rules = RuleSet::Nbr2001;
 };
 
 std::vector<Check> recheckArrangement(const FinalArrangement& arrangement);

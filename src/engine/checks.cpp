@@ -57,6 +57,7 @@ std::string_view clauseOf(CheckId id)
     case CheckId::FinalStirrupSpacing:
         return kItemStirrup;
     case CheckId::MomentAsMagnitude:
+    case CheckId::Rule2014:
         return {};
     case CheckId::CoverBelowNominal:
         return kItemCover;
@@ -269,6 +270,17 @@ Check finalStirrupSpacing(double spacing, double maximum, double barDiameter)
                                                   + " cm, excede o máximo de " + Str(maximum)
                                                   + " cm para a barra longitudinal de " + Str(10 * barDiameter)
                                                   + " mm.");
+}
+
+Check directionNotCarried(const std::string& name, const char* direction, double nSd, double mSd, double utilisation)
+{
+    const std::string u = std::isfinite(utilisation) ? Format(100 * utilisation, "##0.0") + " %" : "sem limite";
+    return make(CheckId::CaseNotCarried, "Na direção de " + std::string(direction) + ", o caso \"" + name
+                                             + "\" (Nd = " + Format(nSd / 100, "##0.0") + " kN, Md,tot = "
+                                             + Format(mSd / 100, "##0.0")
+                                             + " kN.cm, já multiplicados por γn) não é resistido pela seção "
+                                               "detalhada: utilização de "
+                                             + u + ".");
 }
 
 Check momentAsMagnitude(double md)

@@ -50,6 +50,9 @@ enum class CheckId {
     FinalStirrupSpacing,
     // input taken otherwise than typed
     MomentAsMagnitude,
+    // a rule of ABNT NBR 6118:2014 of its own (γn, slenderness, the nominal cover and
+    // the bar): the text and clause come with it
+    Rule2014,
     // cover (questions)
     CoverAggregate,
     CoverBelowNominal,
@@ -110,6 +113,9 @@ Check finalCoverBelowBar(double barCover, double barDiameter);
 Check finalBarAboveEighthOfSide(double barDiameter, double smallerSide);
 Check finalStirrupTooThin(double stirrupDiameter, double minimumDiameter, double barDiameter);
 Check finalStirrupSpacing(double spacing, double maximum, double barDiameter);
+// A direction of a load case the detailed section does not carry (2014): the case,
+// "h" or "b", its design forces (kgf, kgf·cm, γn and second order included).
+Check directionNotCarried(const std::string& name, const char* direction, double nSd, double mSd, double utilisation);
 // A negative moment (kgf·cm, γn not included) designed by its magnitude.
 Check momentAsMagnitude(double md);
 Check coverAggregate(double nominalCover, double aggregate);
@@ -123,6 +129,9 @@ inline constexpr std::string_view kFreeByAggregate = " 2,4 vezes o diâmetro má
 inline constexpr std::string_view kFreeByBar = " 4 vezes o diâmetro da barra longitudinal";
 inline constexpr std::string_view kAxisBySide = " 2 vezes a menor dimensão do trecho considerado";
 inline constexpr std::string_view kAxisAbsolute = "máximo permitido";
+inline constexpr std::string_view kFreeByAggregate2014 = " 1,2 vezes o diâmetro máximo do agregado";
+inline constexpr std::string_view kFreeByBar2014 = " o diâmetro da barra longitudinal";
+inline constexpr std::string_view kFreeAbsolute2014 = " 2 cm";
 } // namespace limits
 
 // The captions of the first button of the cover question.

@@ -176,7 +176,7 @@ bool Passes::designPass(ColumnResult& r)
         if (!silent())
             questions_->tell(r.checks.back());
     }
-    s.GamaN = column.gammaN;
+    s.GamaN = in_.gammaN.value_or(column.gammaN);
     check("CeoficienteAdic25");
     if (s.FlagErro == ErrorFlag::Wall)
         return false;
@@ -208,6 +208,12 @@ bool Passes::designPass(ColumnResult& r)
     }
 
     s.AsNec = s.Ac * s.Rho;
+    // The other direction of a 2014 design, or its minimum, may need more: the same
+    // perimeter arrangement carries both.
+    if (in_.requiredAreaAtLeast > s.AsNec) {
+        s.AsNec = in_.requiredAreaAtLeast;
+        s.Rho = s.AsNec / s.Ac;
+    }
     s.AsNecCopia = s.AsNec;
     s.AsBarraD = s.AsNec / s.NBarrasTotal;
     s.AsNecBarra = s.AsNec / s.NBarrasTotal;
@@ -298,7 +304,7 @@ void Passes::chooseBar(ColumnResult& r)
 
 void Passes::chooseStirrup(ColumnResult& r)
 {
-    rules_ = stirrupRules(s.DiamLong, s.MenorDim, in_.steel);
+    rules_ = stirrupRules(s.DiamLong, s.MenorDim, in_.steel, in_.rules);
     s.DiamEstriboMin = rules_.minimumDiameter;
     s.IndiceEstriboMin = rules_.minimumIndex;
     s.Indice = rules_.minimumIndex;
@@ -366,7 +372,7 @@ void Passes::chooseStirrupByMode(ColumnResult& r)
 // below the minimum passes only under the same-steel rule.
 void Passes::checkCandidateStirrup()
 {
-    rules_ = stirrupRules(s.DiamLong, s.MenorDim, in_.steel);
+    rules_ = stirrupRules(s.DiamLong, s.MenorDim, in_.steel, in_.rules);
     s.DiamEstriboMin = rules_.minimumDiameter;
     s.IndiceEstriboMin = rules_.minimumIndex;
     s.Indice = rules_.minimumIndex;
@@ -495,7 +501,9 @@ void Passes::checkCover(ColumnResult& r)
 // Minimum and maximum steel; below the minimum the bar is chosen again for it.
 void Passes::limitSteel(ColumnResult& r)
 {
-    const SteelLimits l = steelLimits(in_.Nd, s.fyd, s.Ac, s.NBarrasTotal);
+    // 2014 takes the minimum from the design force with γn (17.3.5.3.1).
+    const SteelLimits l =
+        steelLimits(in_.rules == RuleSet::Nbr2014 ? in_.Nd * s.GamaN : in_.Nd, s.fyd, s.Ac, s.NBarrasTotal);
     s.AsMin = l.asMin;
     s.AsMinBarra = l.asMinPerBar;
     s.AsMax = l.asMax;
@@ -533,7 +541,8 @@ void Passes::limitSteel(ColumnResult& r)
 void Passes::checkSpacing(ColumnResult& r)
 {
     const SpacingCheck c = engine::checkSpacing(in_.base, in_.depth, s.dLinha, in_.barsOnWidthFace,
-                                                in_.barsOnDepthFace, s.DiamLong, in_.aggregate, s.MenorDim, !silent());
+                                                in_.barsOnDepthFace, s.DiamLong, in_.aggregate, s.MenorDim, !silent(),
+                                                in_.rules);
     s.EspLivreH = c.values.freeWidth;
     s.EspLivreV = c.values.freeDepth;
     s.EspEixoH = c.values.axisWidth;
@@ -668,6 +677,7 @@ std::vector<Check> Passes::recheck() const
     a.nominalCover = s.CobNominal;
     a.aggregate = in_.aggregate;
     a.steel = in_.steel;
+    a.rules = in_.rules;
     // A thinner stirrup at its own spacing is the same-steel rule: ticked, or chosen
     // by the engineer in "Escolha dos estribos", which offers it on that condition.
     a.stirrupsOfBarSteel =

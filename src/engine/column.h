@@ -65,6 +65,12 @@ struct ColumnInput {
     int predefinedStirrup = 1; // catalogue index 1 to 4
     bool stirrupsOfBarSteel = false; // "Mesmo tipo de aço"
     Hook hook = Hook::Angle45;
+    // The rule set; under ABNT NBR 6118:2014 the caller works γn out (13.2.3) and may
+    // ask for more steel than this direction's design needs (the other direction's,
+    // or the minimum of 17.3.5.3.1).
+    RuleSet rules = RuleSet::Nbr2001;
+    std::optional<double> gammaN;   // none: the 2001 table by whole cm of the smaller side
+    double requiredAreaAtLeast = 0; // cm²
 };
 
 // The silent pass of the best-solution search: the stirrup is the candidate's, the

@@ -1,6 +1,8 @@
 #include "engine/search.h"
 
 #include "engine/catalogue.h"
+#include "engine/interaction.h"
+#include "engine/rules2014.h"
 
 #include "base/calc_error.h"
 #include "base/number_text.h"
@@ -50,6 +52,84 @@ bool carriesEveryCase(const ColumnInput& column, const MethodState& s, const std
         return false;
     }
 }
+// Under 2014: both directions of every case, with γn, the minimum moment and the
+// second order; they do not depend on the arrangement.
+struct Directions2014 {
+    double nSd = 0, mH = 0, mB = 0, nd = 0;
+};
+
+std::vector<Directions2014> directions2014(const SearchInput& input, double gammaN)
+{
+    std::vector<Directions2014> out;
+    for (const Case2014& c : input.cases2014) {
+        const ColumnInput& column = input.column;
+        ColumnSlendernessInput s;
+        const double leH = effectiveLength(input.slenderness2014.effectiveLengthH, column.length);
+        const double leB = effectiveLength(input.slenderness2014.effectiveLengthB, column.length);
+        if (c.Nd > 0) {
+            s.base = column.base, s.depth = column.depth, s.Nd = c.Nd, s.fck = column.fck, s.gammaC = column.gammaC;
+            s.alongDepth = {column.depth, leH, {c.MdTop, c.MdBase}};
+            s.alongBase = {column.base, leB, {c.MyTop, c.MyBase}};
+            s.method = input.slenderness2014.method;
+            const ColumnSlenderness cs = columnSlenderness(s);
+            if (cs.refusal)
+                throw CalcError(cs.refusal->text);
+            out.push_back({cs.Nd, cs.alongDepth.totalMoment, cs.alongBase.totalMoment, c.Nd});
+        } else {
+            out.push_back({c.Nd * gammaN, std::max(std::fabs(c.MdTop), std::fabs(c.MdBase)) * gammaN,
+                           std::max(std::fabs(c.MyTop), std::fabs(c.MyBase)) * gammaN, c.Nd});
+        }
+    }
+    return out;
+}
+
+// The largest area of every case and direction for this arrangement (d' from the cover,
+// as the candidate's pass starts it).
+double area2014(ColumnInput column, const std::vector<Directions2014>& cases, double gammaN)
+{
+    double most = 0;
+    column.gammaN = gammaN;
+    for (const Directions2014& c : cases) {
+        for (int turn = 0; turn < 2; ++turn) {
+            ColumnInput in = column;
+            if (turn == 1) {
+                std::swap(in.base, in.depth);
+                const double widthFace = in.barsOnWidthFace;
+                in.barsOnWidthFace = in.barsOnDepthFace;
+                in.barsOnDepthFace = static_cast<int>(widthFace);
+            }
+            in.Nd = c.nd;
+            in.Md = (turn == 0 ? c.mH : c.mB) / gammaN;
+            Memory fresh;
+            const ColumnResult d = design(in, fresh);
+            if (d.failure)
+                throw CalcError(*d.failure);
+            if (d.designed)
+                most = std::max(most, d.design.asNec);
+        }
+    }
+    return most;
+}
+
+// The candidate's section carries every case in both directions.
+bool carries2014(const ColumnInput& column, const MethodState& s, const std::vector<Directions2014>& cases)
+{
+    try {
+        const Concrete concrete = designConcrete(column.fck, column.gammaC);
+        const Steel steel = designSteel(column.steel, column.gammaS, column.Es);
+        const ReinforcedSection h = rectangularColumn(column.base, column.depth, s.dLinha, column.barsOnWidthFace,
+                                                      column.barsOnDepthFace, s.AsBarra, concrete, steel);
+        const ReinforcedSection b = rectangularColumn(column.depth, column.base, s.dLinha, column.barsOnDepthFace,
+                                                      static_cast<int>(column.barsOnWidthFace), s.AsBarra, concrete,
+                                                      steel);
+        for (const Directions2014& c : cases)
+            if (!(utilisation(h, c.nSd, c.mH).ratio <= 1) || !(utilisation(b, c.nSd, c.mB).ratio <= 1))
+                return false;
+        return true;
+    } catch (const CalcError&) {
+        return false;
+    }
+}
 } // namespace
 
 double countCandidates(const SearchInput& input)
@@ -73,6 +153,22 @@ SearchResult search(const SearchInput& input, Memory& memory, MethodState& state
     }
     // Told about once every 256 arrangements: the call costs nothing beside them.
     constexpr long kProgressEvery = 256;
+    const bool rules2014 = column.rules == RuleSet::Nbr2014;
+    std::vector<Directions2014> cases2014;
+    if (rules2014) {
+        const GammaN2014 g = gammaN2014(column.base, column.depth);
+        if (g.refusal) {
+            r.failure = g.refusal->text;
+            return r;
+        }
+        column.gammaN = g.gammaN;
+        try {
+            cases2014 = directions2014(input, g.gammaN);
+        } catch (const CalcError& e) {
+            r.failure = e.what();
+            return r;
+        }
+    }
     std::vector<Solution>& found = r.found;
     found.reserve(static_cast<std::size_t>(std::min(candidates, kReserveLimit)));
     try {
@@ -84,7 +180,17 @@ SearchResult search(const SearchInput& input, Memory& memory, MethodState& state
                 // found once for the stirrups tried with them.
                 const bool severalCases = input.cases.size() >= 2;
                 ColumnInput tried = column;
-                if (severalCases) {
+                if (rules2014) {
+                    // The governing case's direction of h is the candidate's own
+                    // pass; the area is the largest of them all.
+                    tried.requiredAreaAtLeast = area2014(tried, cases2014, *column.gammaN);
+                    const auto g = std::max_element(cases2014.begin(), cases2014.end(),
+                                                    [](const auto& a, const auto& b) { return a.mH < b.mH; });
+                    if (g != cases2014.end()) {
+                        tried.Nd = g->nd;
+                        tried.Md = g->mH / *column.gammaN;
+                    }
+                } else if (severalCases) {
                     const LoadCase& g = governingCase(column, input.cases);
                     tried.Nd = g.Nd;
                     tried.Md = g.Md;
@@ -97,13 +203,15 @@ SearchResult search(const SearchInput& input, Memory& memory, MethodState& state
                     const Bar& stirrup = bar(static_cast<int>(s));
                     Memory fresh;
                     ColumnResult c = calculateCandidate(tried, {stirrup.diameter, stirrup.mass},
-                                                        severalCases ? fresh : memory, state);
+                                                        severalCases || rules2014 ? fresh : memory, state);
                     // A solution carries its forces by strain compatibility, every
                     // case of them, whatever the method found.
-                    if (c.passedSearch
-                        && !carriesEveryCase(tried, state,
-                                             severalCases ? input.cases
-                                                          : std::vector<LoadCase>{{{}, tried.Nd, tried.Md}}))
+                    if (c.passedSearch && rules2014 && !carries2014(tried, state, cases2014))
+                        c.passedSearch = false;
+                    else if (c.passedSearch && !rules2014
+                             && !carriesEveryCase(tried, state,
+                                                  severalCases ? input.cases
+                                                               : std::vector<LoadCase>{{{}, tried.Nd, tried.Md}}))
                         c.passedSearch = false;
                     ++r.candidates;
                     if (input.progress && r.candidates % kProgressEvery == 0

@@ -14,6 +14,7 @@
 //   search(input, memory, state)    the same on the caller's method variables
 
 #include "engine/column.h"
+#include "engine/column2014.h"
 #include "engine/load_cases.h"
 
 #include <functional>
@@ -29,6 +30,12 @@ struct SearchInput {
     // most steel (each case from a fresh start of the method) and is a solution only
     // if its detailed section carries every case.
     std::vector<LoadCase> cases;
+    // Under ABNT NBR 6118:2014 (column.rules): every case with the end moments of both
+    // directions, and the slenderness; each candidate is detailed for the largest area
+    // of every case and direction and is a solution only where its section carries
+    // them all in both directions.
+    std::vector<Case2014> cases2014;
+    Slenderness2014Input slenderness2014;
     double maxBarsOnWidthFace = 2; // bars that fit on a face of width b
     double maxBarsOnDepthFace = 2; // bars that fit on a face of depth h
     // The most arrangements the search tries before it asks (0: no limit): past it

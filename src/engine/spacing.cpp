@@ -3,7 +3,7 @@
 namespace pilarix::engine {
 
 SpacingCheck checkSpacing(double b, double h, double dLinha, double nBase, double nAltura, double diamLong,
-                          double aggregate, double smallerSide, bool withMessages)
+                          double aggregate, double smallerSide, bool withMessages, RuleSet rules)
 {
     SpacingCheck c;
     auto& v = c.values;
@@ -12,9 +12,13 @@ SpacingCheck checkSpacing(double b, double h, double dLinha, double nBase, doubl
     v.axisWidth = (b - 2 * dLinha) / (nBase - 1);
     v.axisDepth = (h - 2 * dLinha) / (nAltura - 1);
 
-    const double byAggregate = 2 * 1.2 * aggregate;
-    const double byBar = 4 * diamLong;
-    if (byBar < byAggregate) {
+    if (rules == RuleSet::Nbr2014) {
+        const double byAggregate = 1.2 * aggregate;
+        const double byBar = diamLong > 2 ? diamLong : 2;
+        v.minimumFree = byBar < byAggregate ? byAggregate : byBar;
+        c.freeLimit = byBar < byAggregate ? limits::kFreeByAggregate2014
+                                          : (diamLong > 2 ? limits::kFreeByBar2014 : limits::kFreeAbsolute2014);
+    } else if (const double byAggregate = 2 * 1.2 * aggregate, byBar = 4 * diamLong; byBar < byAggregate) {
         v.minimumFree = byAggregate;
         c.freeLimit = limits::kFreeByAggregate;
     } else {

@@ -10,6 +10,7 @@
 
 #include "engine/checks.h"
 #include "engine/column.h"
+#include "engine/options.h"
 
 #include <string_view>
 #include <vector>
@@ -23,7 +24,10 @@ struct SpacingCheck {
     std::vector<Check> failures;
 };
 
+// Under ABNT NBR 6118:2014 the free spacing must reach 2 cm, φl and 1.2 times the
+// largest aggregate (18.4.2.2).
 SpacingCheck checkSpacing(double base, double depth, double dLinha, double barsOnWidthFace, double barsOnDepthFace,
-                          double barDiameter, double aggregate, double smallerSide, bool withMessages = true);
+                          double barDiameter, double aggregate, double smallerSide, bool withMessages = true,
+                          RuleSet rules = RuleSet::Nbr2001);
 
 } // namespace pilarix::engine

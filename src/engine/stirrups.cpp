@@ -14,7 +14,7 @@ namespace {
 const Bar& catalogueBar(int index) { return bar(index, "DiamBitola"); }
 } // namespace
 
-StirrupRules stirrupRules(double barDiameter, double smallerSide, SteelGrade grade)
+StirrupRules stirrupRules(double barDiameter, double smallerSide, SteelGrade grade, RuleSet rules)
 {
     StirrupRules r;
     // At least 5 mm and a quarter of the longitudinal bar. The catalogue walk has no
@@ -38,6 +38,8 @@ StirrupRules stirrupRules(double barDiameter, double smallerSide, SteelGrade gra
             r.spacing = Int(12 * barDiameter);
         break;
     default:
+        if (rules == RuleSet::Nbr2014 && Int(12 * barDiameter) < r.spacing)
+            r.spacing = Int(12 * barDiameter);
         break;
     }
     const double fyk = characteristicYield(grade);

@@ -30,7 +30,8 @@ struct StirrupRules {
     std::array<double, 4> sameSteelSpacing{}; // [k] for catalogue stirrup k = 1 to 3, cm
 };
 
-StirrupRules stirrupRules(double barDiameter, double smallerSide, SteelGrade grade);
+// Under ABNT NBR 6118:2014 CA-60 takes 12 φl as CA-50 (18.4.3).
+StirrupRules stirrupRules(double barDiameter, double smallerSide, SteelGrade grade, RuleSet rules = RuleSet::Nbr2001);
 
 int leastSteelPerMetre(const StirrupRules& rules);
 

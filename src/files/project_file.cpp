@@ -10,6 +10,7 @@
 #include "files/record_text.h"
 #include "files/safe_write.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <cerrno>
@@ -224,12 +225,28 @@ bool leCampos(const std::string& nome, std::vector<std::string>& campos, std::st
 //   d' automático;1           "d' automático f(cobrimento)" (Check3) ticked (1 or 2)
 //   d' digitado;VALOR         d' as it stood before the calculation rewrote record 8,
 //                             %-encoded; it goes back into the d' box on loading
+//   Norma;2014                calculated by ABNT NBR 6118:2014 (none: the 2001 project)
+//   MdBase;V  MyTopo;V  MyBase;V  LeH;V  LeB;V
+//                             what 2014 adds, as typed, each only when given
+//   SegundaOrdem;rigidez      the κ method (none: the approximate curvature)
+//   Caso;NOME;Nd;Md;MdBase;MyTopo;MyBase
+//                             a further case with its 2014 end moments (empty: none)
 
 constexpr const char* kCaso = "Caso";
 constexpr const char* kCasoCodificado = "Caso%";
 constexpr const char* kBitolaFixa = "Bitola fixa";
 constexpr const char* kDAutomatico = "d' automático";
 constexpr const char* kDDigitado = "d' digitado";
+constexpr const char* kNorma = "Norma";
+constexpr const char* kSegundaOrdem = "SegundaOrdem";
+// The boxes 2014 adds, in the order they are written.
+const std::vector<std::pair<const char*, TextBox Form1Model::*>>& caixas2014()
+{
+    static const std::vector<std::pair<const char*, TextBox Form1Model::*>> t{
+        {"MdBase", &Form1Model::MdBase}, {"MyTopo", &Form1Model::MyTopo}, {"MyBase", &Form1Model::MyBase},
+        {"LeH", &Form1Model::LeH},       {"LeB", &Form1Model::LeB}};
+    return t;
+}
 
 std::vector<std::string> partes(const std::string& s)
 {
@@ -284,7 +301,15 @@ bool registrosExtras(const Program& p, std::vector<std::string>& e, std::string&
                 if (!IsNumber(*v))
                     return recusa(std::string(v == &c.nd ? "Nd" : "Md") + " do caso " + aspas(c.nome) + " é "
                                   + aspas(*v) + ", que não é um número com ponto decimal");
-            e.push_back(registroDeCaso(c.nome, ";" + c.nd + ";" + c.md));
+            std::string resto = ";" + c.nd + ";" + c.md;
+            if (!c.mdBase.empty() || !c.myTopo.empty() || !c.myBase.empty()) {
+                for (const std::string* v : {&c.mdBase, &c.myTopo, &c.myBase})
+                    if (!v->empty() && !IsNumber(*v))
+                        return recusa("um momento do caso " + aspas(c.nome) + " é " + aspas(*v)
+                                      + ", que não é um número com ponto decimal");
+                resto += ";" + c.mdBase + ";" + c.myTopo + ";" + c.myBase;
+            }
+            e.push_back(registroDeCaso(c.nome, resto));
         }
     }
     if (p.BitolaFixa != 0)
@@ -293,6 +318,21 @@ bool registrosExtras(const Program& p, std::vector<std::string>& e, std::string&
         e.push_back(std::string(kDAutomatico) + ";" + std::to_string(p.Form1.Check3.Value));
     if (dLinhaReescrita(p))
         e.push_back(std::string(kDDigitado) + ";" + files::percentEncoded(*p.DLinhaDigitado));
+    if (p.norma2014())
+        e.push_back(std::string(kNorma) + ";2014");
+    for (const auto& [nome, caixa] : caixas2014()) {
+        const std::string& v = (p.Form1.*caixa).Text;
+        if (v.empty())
+            continue;
+        if (!IsNumber(v)) {
+            erro = "Não foi possível gravar o arquivo " + aspas(p.NomeArquivo) + ": " + nome + " é " + aspas(v)
+                   + ", que não é um número com ponto decimal.";
+            return false;
+        }
+        e.push_back(std::string(nome) + ";" + v);
+    }
+    if (p.Form1.SegundaOrdem.Text == "rigidez")
+        e.push_back(std::string(kSegundaOrdem) + ";rigidez");
     return true;
 }
 
@@ -302,6 +342,9 @@ struct Extras {
     int bitolaFixa = 0;
     int dAutomatico = 0;
     std::optional<std::string> dDigitado;
+    bool norma2014 = false;
+    bool rigidez = false;
+    std::vector<std::pair<TextBox Form1Model::*, std::string>> caixas2014;
 };
 
 // The records after the 39, or the first that is broken, told in `erro`.
@@ -332,14 +375,36 @@ Extras leExtras(const std::vector<std::string>& campos, const std::string& nome,
                 x.nomeDoCaso1 = p[1];
             } else if (primeiroCaso) {
                 quebrado("o primeiro caso de carga tem só o nome (Caso;NOME), suas forças são Nd e Md");
-            } else if (p.size() != 4 || p[1].empty()) {
-                quebrado("um caso de carga tem nome, Nd e Md (Caso;NOME;Nd;Md)");
-            } else if (!IsNumber(p[2]) || !IsNumber(p[3])) {
-                quebrado("Nd e Md de um caso de carga são números com ponto decimal");
+            } else if ((p.size() != 4 && p.size() != 7) || p[1].empty()) {
+                quebrado("um caso de carga tem nome, Nd e Md (Caso;NOME;Nd;Md), e pela ABNT NBR 6118:2014 também "
+                         "MdBase, MyTopo e MyBase");
+            } else if (!IsNumber(p[2]) || !IsNumber(p[3])
+                       || (p.size() == 7
+                           && ((!p[4].empty() && !IsNumber(p[4])) || (!p[5].empty() && !IsNumber(p[5]))
+                               || (!p[6].empty() && !IsNumber(p[6]))))) {
+                quebrado("as forças de um caso de carga são números com ponto decimal");
             } else {
-                x.casos.push_back({p[1], p[2], p[3]});
+                p.resize(7);
+                x.casos.push_back({p[1], p[2], p[3], p[4], p[5], p[6]});
             }
             primeiroCaso = false;
+        } else if (p[0] == kNorma) {
+            if (p.size() != 2 || p[1] != "2014")
+                quebrado("a norma se grava como Norma;2014");
+            else
+                x.norma2014 = true;
+        } else if (p[0] == kSegundaOrdem) {
+            if (p.size() != 2 || p[1] != "rigidez")
+                quebrado("o método da segunda ordem se grava como SegundaOrdem;rigidez");
+            else
+                x.rigidez = true;
+        } else if (const auto k = std::find_if(caixas2014().begin(), caixas2014().end(),
+                                               [&](const auto& c) { return p[0] == c.first; });
+                   k != caixas2014().end()) {
+            if (p.size() != 2 || !IsNumber(p[1]))
+                quebrado(std::string(k->first) + " é um número com ponto decimal");
+            else
+                x.caixas2014.emplace_back(k->second, p[1]);
         } else if (p[0] == kBitolaFixa) {
             const int k = p.size() == 2 ? engine::barIndexByLabel(p[1]) : 0;
             if (k < engine::kFirstLongitudinalBar)
@@ -359,7 +424,7 @@ Extras leExtras(const std::vector<std::string>& campos, const std::string& nome,
                 x.dDigitado = *d;
         } else {
             quebrado("depois dos 39 registros vêm só casos de carga (Caso;...), a bitola fixada (Bitola fixa;...)"
-                     " e o d' (d' automático;... e d' digitado;...)");
+                     ", o d' (d' automático;... e d' digitado;...) e o que a ABNT NBR 6118:2014 acrescenta (Norma;2014...)");
         }
     }
     if (erro.empty() && !primeiroCaso && x.casos.empty())
@@ -507,6 +572,13 @@ void Program::Carrega33()
     OutrosCasos = extras.casos;
     BitolaFixa = extras.bitolaFixa;
     Form1.Check3.Value = extras.dAutomatico;
+    // A file without them is a project of the 2001 rules.
+    Form1.Norma.Text = lists::norma[extras.norma2014 ? 1 : 0];
+    Form1.SegundaOrdem.Text = extras.rigidez ? "rigidez" : "curvatura";
+    for (const auto& [nome, caixa] : caixas2014())
+        (Form1.*caixa).Text.clear();
+    for (const auto& [caixa, valor] : extras.caixas2014)
+        (Form1.*caixa).Text = valor;
     // The next calculation starts where the saved one did; saved again before it,
     // the file is the same.
     if (extras.dDigitado) {

@@ -13,6 +13,8 @@ const std::vector<std::string> tensao{"MPa",   "Kgf/mm2", "Kgf/cm2", "Kgf/m2", "
 const std::vector<std::string> aco{"Aço CA-25A", "Aço CA-50A", "Aço CA-60A",
                                    "Aço CA-25B", "Aço CA-50B", "Aço CA-60B"};
 const std::vector<std::string> agressividade{"I", "II", "III", "IV"};
+const std::vector<std::string> norma{"Projeto de revisão da NB1 / 2001", "ABNT NBR 6118:2014"};
+const std::vector<std::string> segundaOrdem{"curvatura", "rigidez"};
 namespace {
 // The bar lists take their labels from the catalogue: stirrups are bars 1 to 4,
 // longitudinal bars 4 to 11.
@@ -64,6 +66,8 @@ Form1Model::Form1Model()
     Combo1 = combo(lists::aco, "Aço CA-50A");
     Combo2 = combo(lists::agressividade, "II");
     Combo3 = combo(lists::estribo, "5 mm");
+    Norma = combo(lists::norma, lists::norma[0]);
+    SegundaOrdem = combo(lists::segundaOrdem, "curvatura");
 
     Check3.Caption = "d' automático f(cobrimento)";
     Check2.Caption = "Automático";

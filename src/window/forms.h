@@ -46,6 +46,12 @@ struct Form1Model {
     // results
     TextBox Text8, Text9, Text10, Text11, Text12, Text13, Text14, Text15, Text19;
     TextBox Text25, Text26, Text27, Text28, Text29, Text30;
+    // The rule set, and what ABNT NBR 6118:2014 adds: the moments of the base (direction
+    // of h) and of both ends in the direction of b, in Md's unit and signed as Md
+    // (equal signs tension the same face); the effective lengths (cm, empty: the
+    // column's length); the method of the local second order.
+    ComboBox Norma, SegundaOrdem;
+    TextBox MdBase, MyTopo, MyBase, LeH, LeB;
     // buttons
     CommandButton Command1;  // "&Calcula"
     CommandButton Command6;  // "&Sai"
@@ -143,6 +149,8 @@ extern const std::vector<std::string> momento;     // Combo5
 extern const std::vector<std::string> tensao;      // Combo6, Combo7
 extern const std::vector<std::string> aco;         // Combo1
 extern const std::vector<std::string> agressividade; // Combo2
+extern const std::vector<std::string> norma;         // Norma: the 2001 project, ABNT NBR 6118:2014
+extern const std::vector<std::string> segundaOrdem;  // SegundaOrdem: "curvatura", "rigidez"
 extern const std::vector<std::string> estribo;     // Combo3, Form8.Combo1
 extern const std::vector<std::string> longitudinal; // Form8.Combo3
 extern const std::vector<std::string> estriboVirgula;      // Form5.Combo1

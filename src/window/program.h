@@ -12,6 +12,7 @@
 #include "engine/method_state.h"
 #include "engine/search.h"
 #include "engine/load_cases.h"
+#include "engine/column2014.h"
 #include "engine/verification.h"
 #include "window/dialog_port.h"
 #include "window/dialog_record.h"
@@ -60,7 +61,17 @@ struct SolutionRow {
 // A load case beyond the first, as the cases table holds it: its forces as typed, in
 // the units of Nd and Md of the main window.
 struct CasoDeCarga {
+    CasoDeCarga() = default;
+    CasoDeCarga(std::string nome_, std::string nd_, std::string md_, std::string mdBase_ = {},
+                std::string myTopo_ = {}, std::string myBase_ = {})
+        : nome(std::move(nome_)), nd(std::move(nd_)), md(std::move(md_)), mdBase(std::move(mdBase_)),
+          myTopo(std::move(myTopo_)), myBase(std::move(myBase_))
+    {
+    }
     std::string nome, nd, md;
+    // Under ABNT NBR 6118:2014: the moment of the base in the direction of h and those
+    // of both ends in the direction of b, as typed in Md's unit (empty: none).
+    std::string mdBase, myTopo, myBase;
 };
 
 // What the calculation of several load cases found for each.
@@ -94,6 +105,14 @@ public:
     engine::ColumnInput Entrada;
     std::optional<engine::ColumnResult> Resultado;
     std::optional<engine::Verification> Verificacao;
+    // Under ABNT NBR 6118:2014: γn, both directions of every case, their areas and
+    // utilisations (the detail is Resultado).
+    std::optional<engine::Column2014Result> Resultado2014;
+    bool norma2014() const { return Form1.Norma.Text == lists::norma[1]; }
+    // The load cases with their end moments in both directions, and the slenderness
+    // inputs, as Ler02 read the window (window/norma2014.cpp).
+    std::vector<engine::Case2014> casos2014();
+    engine::Slenderness2014Input esbeltez2014() const;
     // Every message and question of the last calculation, in order, with the answer
     // given: the error dialogs, the cover question, the stirrup choice, the notices.
     std::vector<DialogRecord> MensagensDoCalculo;
@@ -218,6 +237,8 @@ private:
     void programa0Passes();
     void passeInterativo();
     void calculaCasos(engine::Questions& perguntas);
+    // ABNT NBR 6118:2014: both directions of every case (window/norma2014.cpp).
+    void calcula2014(engine::Questions& perguntas);
     void finalDeErro();
     // An input refused before the calculation: the message, no result, "erro".
     void recusaEntrada(const std::string& mensagem);

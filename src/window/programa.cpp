@@ -167,7 +167,14 @@ void Program::passeInterativo()
     Entrada = entradaDoCalculo();
     // With load cases beyond the first, the one needing the most steel is detailed.
     const bool casos = !OutrosCasos.empty();
-    if (casos)
+    if (norma2014()) {
+        calcula2014(perguntas);
+        if (!Resultado) {
+            // Refused by a rule of 2014 (γn, λ > 90): nothing was designed.
+            finalDeErro();
+            return;
+        }
+    } else if (casos)
         calculaCasos(perguntas);
     else
         Resultado = engine::calculate(Entrada, perguntas, memoria, metodo);
@@ -192,7 +199,7 @@ void Program::passeInterativo()
     Desenho = r.geometry;
     ++VersaoDoDesenho;
     Form1.CotasVisiveis = true;
-    if (!casos)
+    if (!casos && !norma2014())
         Verificacao = engine::verify(Entrada, r);
     std::feclearexcept(FE_ALL_EXCEPT);
     Imprime37();
@@ -200,7 +207,8 @@ void Program::passeInterativo()
                                              Fck, Precisao});
     // "Ok" only where the column earns it: the method's checks, the detailed section
     // under every case and the final arrangement as built.
-    if (metodo.FlagErro == engine::ErrorFlag::None && r.carried && r.arrangementFailures == 0) {
+    const bool regras2014 = !Resultado2014 || Resultado2014->failures.empty();
+    if (metodo.FlagErro == engine::ErrorFlag::None && r.carried && r.arrangementFailures == 0 && regras2014) {
         Form1.Text30.Text = "Ok";
         Form1.Text30.BackColor = kWhite;
     } else {

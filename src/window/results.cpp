@@ -22,6 +22,7 @@ void Program::Zera31()
     ErroEntrada = "n";
     Resultado.reset();
     Verificacao.reset();
+    Resultado2014.reset();
     ResultadosDosCasos.clear();
     DLinhaDigitado.reset();
     DLinhaReescrito.clear();

@@ -144,8 +144,13 @@ void buscaMelhorSolucao(Program& p)
         in.column = p.entradaDoCalculo();
         in.maxBarsOnWidthFace = p.nMaxBase;
         in.maxBarsOnDepthFace = p.nMaxAltura;
-        if (!p.OutrosCasos.empty())
+        if (p.norma2014()) {
+            in.column.rules = engine::RuleSet::Nbr2014;
+            in.cases2014 = p.casos2014();
+            in.slenderness2014 = p.esbeltez2014();
+        } else if (!p.OutrosCasos.empty()) {
             in.cases = p.casosDeCarga();
+        }
         // A section so large that the search would run for long asks first; the
         // engineer may lift the limit for this search.
         const double total = engine::countCandidates(in);

@@ -70,8 +70,11 @@ Entrada grupo(std::vector<std::pair<std::string, OptionButton Form1Model::*>> op
 std::string casos(const Program& p)
 {
     std::string s = p.NomeDoCaso1;
-    for (const auto& c : p.OutrosCasos)
+    for (const auto& c : p.OutrosCasos) {
         s += "\n" + c.nome + ";" + c.nd + ";" + c.md;
+        if (!c.mdBase.empty() || !c.myTopo.empty() || !c.myBase.empty())
+            s += ";" + c.mdBase + ";" + c.myTopo + ";" + c.myBase;
+    }
     return s;
 }
 
@@ -89,9 +92,16 @@ void poeCasos(Program& p, const std::string& s)
     p.NomeDoCaso1 = linhas.front();
     p.OutrosCasos.clear();
     for (std::size_t i = 1; i < linhas.size(); ++i) {
-        const auto a = linhas[i].find(';');
-        const auto b = linhas[i].find(';', a + 1);
-        p.OutrosCasos.push_back({linhas[i].substr(0, a), linhas[i].substr(a + 1, b - a - 1), linhas[i].substr(b + 1)});
+        std::vector<std::string> campos;
+        for (std::size_t inicio = 0;;) {
+            const auto fim = linhas[i].find(';', inicio);
+            campos.push_back(linhas[i].substr(inicio, fim - inicio));
+            if (fim == std::string::npos)
+                break;
+            inicio = fim + 1;
+        }
+        campos.resize(6);
+        p.OutrosCasos.push_back({campos[0], campos[1], campos[2], campos[3], campos[4], campos[5]});
     }
 }
 
@@ -153,6 +163,14 @@ const std::vector<Entrada>& entradas()
                          p.Form1.Option7[1].Value = v == "Option7(1)";
                      }});
         texto("Text6", P, &F::Text6);
+        // ABNT NBR 6118:2014
+        lista("Norma", P | R | B, &F::Norma);
+        lista("SegundaOrdem", P | R | B, &F::SegundaOrdem);
+        texto("MdBase", P | R | B, &F::MdBase);
+        texto("MyTopo", P | R | B, &F::MyTopo);
+        texto("MyBase", P | R | B, &F::MyBase);
+        texto("LeH", P | R | B, &F::LeH);
+        texto("LeB", P | R | B, &F::LeB);
         // "Outros valores"
         t.push_back(campo("Form8.Combo1", P | R | B, [](Program& p) -> std::string& { return p.Form8.Combo1.Text; }));
         t.push_back(campo("Form8.Combo3", P | R | B, [](Program& p) -> std::string& { return p.Form8.Combo3.Text; }));
@@ -233,6 +251,27 @@ std::optional<std::string> foraDaFaixa(const Program& p)
             return "A caixa \"d' (cm)\" tem " + f.Text3.Text
                    + ", fora do que o programa aceita: maior que 0 e menor que metade do menor lado da seção ("
                    + Str(menor / 2) + " cm); deixe-a vazia para que o cobrimento a defina.";
+    }
+    // What ABNT NBR 6118:2014 adds: empty, or numbers within the same bounds.
+    const struct {
+        const TextBox* caixa;
+        const char* nome;
+        bool comprimento;
+    } extras[] = {{&f.MdBase, "Md na base", false}, {&f.MyTopo, "My no topo", false}, {&f.MyBase, "My na base", false},
+                  {&f.LeH, "ℓe na direção de h (cm)", true}, {&f.LeB, "ℓe na direção de b (cm)", true}};
+    for (const auto& x : extras) {
+        if (vazia(x.caixa->Text))
+            continue;
+        const auto v = valor(x.caixa->Text);
+        if (!v)
+            return "A caixa " + aspas(x.nome) + " tem " + aspas(x.caixa->Text) + ", que não é um número: digite "
+                   + (x.comprimento ? "o comprimento efetivo em cm, ou deixe-a vazia para o comprimento do pilar"
+                                    : "o momento na unidade de Md, ou deixe-a vazia")
+                   + ".";
+        const bool fora = x.comprimento ? !(*v > 0 && *v <= 10000) : std::fabs(*v * fator(f.Combo5.Text)) > 1e10;
+        if (fora)
+            return "A caixa " + aspas(x.nome) + " tem " + x.caixa->Text + ", fora do que o programa aceita: "
+                   + (x.comprimento ? "maior que 0 e no máximo 10000 cm" : "de -1000000 kN.m a 1000000 kN.m") + ".";
     }
     // Every load case beyond the first, in the units of the main window's lists.
     for (const auto& c : p.OutrosCasos) {

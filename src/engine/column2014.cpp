@@ -1,0 +1,221 @@
+#include "engine/column2014.h"
+
+#include "engine/clauses2014.h"
+#include "engine/interaction.h"
+#include "engine/rules2014.h"
+
+#include "base/calc_error.h"
+#include "base/number_text.h"
+
+#include <cmath>
+#include <utility>
+
+namespace pilarix::engine {
+
+double effectiveLength(double given, double columnLength) { return given > 0 ? given : columnLength; }
+
+namespace {
+
+// The same column turned a quarter: b and h change places, and so do the faces.
+ColumnInput turned(ColumnInput in)
+{
+    std::swap(in.base, in.depth);
+    const double widthFace = in.barsOnWidthFace;
+    in.barsOnWidthFace = in.barsOnDepthFace;
+    in.barsOnDepthFace = static_cast<int>(widthFace);
+    return in;
+}
+
+// Both directions of one case. A column in tension has no minimum moment and no
+// second order: each direction keeps its larger end moment.
+ColumnSlenderness slendernessOf(const ColumnInput& column, const Case2014& c, const Slenderness2014Input& s,
+                                double gammaN)
+{
+    const double leH = effectiveLength(s.effectiveLengthH, column.length);
+    const double leB = effectiveLength(s.effectiveLengthB, column.length);
+    if (c.Nd > 0) {
+        ColumnSlendernessInput in;
+        in.base = column.base;
+        in.depth = column.depth;
+        in.Nd = c.Nd;
+        in.fck = column.fck;
+        in.gammaC = column.gammaC;
+        in.alongDepth = {column.depth, leH, {c.MdTop, c.MdBase}};
+        in.alongBase = {column.base, leB, {c.MyTop, c.MyBase}};
+        in.method = s.method;
+        return columnSlenderness(in);
+    }
+    ColumnSlenderness r;
+    r.gammaN = gammaN;
+    r.Nd = c.Nd * gammaN;
+    r.nu = r.Nd / (column.base * column.depth * column.fck / column.gammaC);
+    auto plain = [&](double side, double le, double top, double bottom) {
+        DirectionSlenderness d;
+        d.side = side;
+        d.effectiveLength = le;
+        d.MA = std::max(std::fabs(top), std::fabs(bottom)) * gammaN;
+        d.firstOrderMoment = d.totalMoment = d.MA;
+        return d;
+    };
+    r.alongDepth = plain(column.depth, leH, c.MdTop, c.MdBase);
+    r.alongBase = plain(column.base, leB, c.MyTop, c.MyBase);
+    return r;
+}
+
+// The design of one direction by solicitation zones at d' (typed, or found from the
+// cover), the forces with γn as 2014 gives it.
+double designedArea(ColumnInput in, double gammaN, double moment)
+{
+    in.gammaN = gammaN;
+    in.Md = moment / gammaN;
+    Memory fresh;
+    const ColumnResult d = design(in, fresh);
+    if (d.failure)
+        throw CalcError(*d.failure);
+    return d.designed ? d.design.asNec : 0;
+}
+
+// Every case in both directions at the d' of `column`; the index of the case and the
+// direction needing the most steel (the first of equal ones, h before b).
+void designCases(const ColumnInput& column, Column2014Result& r)
+{
+    double most = -1;
+    for (std::size_t i = 0; i < r.cases.size(); ++i) {
+        CaseResult2014& c = r.cases[i];
+        ColumnInput in = column;
+        in.Nd = c.loadCase.Nd;
+        c.h.asNec = designedArea(in, r.gammaN, c.h.slenderness.totalMoment);
+        c.b.asNec = designedArea(turned(in), r.gammaN, c.b.slenderness.totalMoment);
+        for (const auto& [area, direction] : {std::pair{c.h.asNec, 'h'}, std::pair{c.b.asNec, 'b'}})
+            if (area > most) {
+                most = area;
+                r.governingCase = static_cast<int>(i);
+                r.governingDirection = direction;
+            }
+    }
+    r.asNec = most;
+}
+
+// The governing case's calculation may move d' (the cover); the cases are then
+// designed again at that d' and, where more steel is needed, detailed again.
+constexpr int kRounds = 3;
+
+} // namespace
+
+Column2014Result calculate2014(const ColumnInput& given, const std::vector<Case2014>& cases,
+                               const Slenderness2014Input& slenderness, Questions& questions, Memory& memory,
+                               MethodState& state)
+{
+    Column2014Result r;
+    Questions2014 told(questions);
+    ColumnInput column = given;
+    column.rules = RuleSet::Nbr2014;
+
+    const GammaN2014 g = gammaN2014(column.base, column.depth);
+    if (g.refusal) {
+        r.refusal = fromCheck2014(*g.refusal);
+        told.tell(*r.refusal);
+        return r;
+    }
+    r.gammaN = g.gammaN;
+    column.gammaN = g.gammaN;
+
+    for (const Case2014& c : cases) {
+        CaseResult2014 cr;
+        cr.loadCase = c;
+        const ColumnSlenderness s = slendernessOf(column, c, slenderness, r.gammaN);
+        if (s.refusal) {
+            r.refusal = fromCheck2014(*s.refusal);
+            told.tell(*r.refusal);
+            return r;
+        }
+        cr.nSd = s.Nd;
+        cr.nu = s.nu;
+        cr.h.slenderness = s.alongDepth;
+        cr.b.slenderness = s.alongBase;
+        r.cases.push_back(std::move(cr));
+    }
+    if (r.cases.empty())
+        return r;
+
+    try {
+        designCases(column, r);
+    } catch (const CalcError& e) {
+        r.detail.failure = e.what();
+        return r;
+    }
+    for (int round = 1; round <= kRounds; ++round) {
+        const CaseResult2014& g = r.cases[static_cast<std::size_t>(r.governingCase)];
+        ColumnInput in = column;
+        in.Nd = g.loadCase.Nd;
+        in.Md = g.h.slenderness.totalMoment / r.gammaN;
+        in.requiredAreaAtLeast = r.asNec;
+        Memory fresh = memory;
+        r.detail = calculate(in, told, fresh, state);
+        memory = fresh;
+        if (!r.detail.designed || r.detail.failure || !r.detail.detailed)
+            break;
+        if (!column.dLinha.automatic && r.detail.design.dLinha == column.dLinha.typed)
+            break;
+        // d' as the detail ended with it: the areas there.
+        ColumnInput settled = column;
+        settled.dLinha = {false, r.detail.design.dLinha};
+        const double before = r.asNec;
+        try {
+            designCases(settled, r);
+        } catch (const CalcError& e) {
+            r.detail.failure = e.what();
+            return r;
+        }
+        if (r.asNec <= before || round == kRounds)
+            break;
+    }
+    r.cases[static_cast<std::size_t>(r.governingCase)].governing = true;
+    if (!r.detail.detailed || !r.detail.bar)
+        return r;
+
+    // Every case in both directions on the section as detailed; the governing case's
+    // direction of h is the detail's own check, told already.
+    try {
+        const ReinforcedSection alongH =
+            rectangularColumn(column.base, column.depth, r.detail.design.dLinha, column.barsOnWidthFace,
+                              column.barsOnDepthFace, r.detail.bar->barArea, r.detail.design.concrete,
+                              r.detail.design.steel);
+        const ReinforcedSection alongB =
+            rectangularColumn(column.depth, column.base, r.detail.design.dLinha, column.barsOnDepthFace,
+                              static_cast<int>(column.barsOnWidthFace), r.detail.bar->barArea,
+                              r.detail.design.concrete, r.detail.design.steel);
+        for (std::size_t i = 0; i < r.cases.size(); ++i) {
+            CaseResult2014& c = r.cases[i];
+            c.h.utilisation = utilisation(alongH, c.nSd, c.h.slenderness.totalMoment).ratio;
+            c.b.utilisation = utilisation(alongB, c.nSd, c.b.slenderness.totalMoment).ratio;
+            const bool own = static_cast<int>(i) == r.governingCase;
+            struct Seen {
+                const Direction2014* d;
+                const char* name;
+            };
+            for (const Seen& x : {Seen{&c.h, "h"}, Seen{&c.b, "b"}}) {
+                if (x.d->utilisation <= 1 || (own && x.d == &c.h))
+                    continue;
+                r.failures.push_back(checks::directionNotCarried(c.loadCase.name, x.name, c.nSd,
+                                                                 x.d->slenderness.totalMoment, x.d->utilisation));
+                told.tell(r.failures.back());
+            }
+        }
+    } catch (const CalcError& e) {
+        r.failures.push_back(checks::sectionNotVerified(e.what()));
+        told.tell(r.failures.back());
+    }
+
+    // The nominal cover is at least the bar (7.4.7.5), a rule of 2014's own.
+    if (r.detail.cover.nominal + 1e-9 < r.detail.bar->diameter) {
+        r.failures.push_back(
+            fromCheck2014(checks2014::coverBelowBarDiameter(r.detail.cover.nominal, r.detail.bar->diameter)));
+        told.tell(r.failures.back());
+    }
+    for (Check& c : r.detail.checks)
+        c = with2014Clause(c);
+    return r;
+}
+
+} // namespace pilarix::engine
