@@ -3,6 +3,7 @@
 // fresh start of the method each time.
 
 #include "engine/column.h"
+#include "engine/column2014.h"
 #include "engine/load_cases.h"
 #include "engine/search.h"
 
@@ -112,4 +113,54 @@ void BM_Calculate_TenLoadCases(benchmark::State& state)
     state.SetLabel("governa " + r.cases[static_cast<std::size_t>(r.governing)].loadCase.name + (r.ok() ? ", Ok" : ", erro"));
 }
 BENCHMARK(BM_Calculate_TenLoadCases)->Unit(benchmark::kMicrosecond);
+} // namespace
+
+namespace {
+// ABNT NBR 6118:2014, the window's defaults: the minimum moment and the slenderness in
+// both directions, both designs, the detail and both directions verified.
+// Target: at most twice BM_Calculate_Defaults.
+void calculate2014(benchmark::State& state, bool oblique)
+{
+    const std::vector<engine::Case2014> cases{{"1", 40000, 1000000, 0, 0, 0}};
+    engine::Slenderness2014Input s;
+    s.oblique = oblique;
+    engine::FixedAnswers answers;
+    engine::Column2014Result r;
+    for (auto _ : state) {
+        engine::Memory memory;
+        engine::MethodState m;
+        r = engine::calculate2014(defaults(), cases, s, answers, memory, m);
+        benchmark::DoNotOptimize(r);
+    }
+    state.SetLabel(std::string(r.ok() ? "Ok" : "erro") + ", governa " + r.governingDirection);
+}
+void BM_Calculate2014_Defaults(benchmark::State& state) { calculate2014(state, false); }
+BENCHMARK(BM_Calculate2014_Defaults);
+
+// The same with both directions together (contour, points, minimum envelope).
+// Target: within 0.5 ms.
+void BM_Calculate2014_DefaultsWithOblique(benchmark::State& state) { calculate2014(state, true); }
+BENCHMARK(BM_Calculate2014_DefaultsWithOblique)->Unit(benchmark::kMicrosecond);
+
+// The 40 x 120 search under 2014, both directions together in every solution.
+// Targets: at most three times BM_Search_40x120, and within 100 ms.
+void BM_Search2014_40x120(benchmark::State& state)
+{
+    engine::SearchInput in;
+    in.column = defaults();
+    in.column.base = 40;
+    in.column.depth = 120;
+    in.column.rules = engine::RuleSet::Nbr2014;
+    in.cases2014 = {{"1", 40000, 1000000, 0, 0, 0}};
+    in.maxBarsOnWidthFace = static_cast<double>(static_cast<int>(40 / 5 + 1 + 0.5));
+    in.maxBarsOnDepthFace = static_cast<double>(static_cast<int>(120 / 5 + 1));
+    engine::SearchResult r;
+    for (auto _ : state) {
+        engine::Memory memory;
+        r = engine::search(in, memory);
+        benchmark::DoNotOptimize(r);
+    }
+    state.counters["soluções"] = static_cast<double>(r.solutions.size());
+}
+BENCHMARK(BM_Search2014_40x120)->Unit(benchmark::kMillisecond);
 } // namespace

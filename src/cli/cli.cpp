@@ -364,6 +364,33 @@ nlohmann::ordered_json direcaoJson(const engine::Direction2014& d)
 }
 } // namespace
 
+nlohmann::ordered_json obliquaJson(const engine::ObliqueCheck& o)
+{
+    auto numero = [](double v) { return std::isfinite(v) ? nlohmann::ordered_json(v) : nlohmann::ordered_json(nullptr); };
+    nlohmann::ordered_json contorno = nlohmann::ordered_json::array();
+    for (const auto& [mx, my] : o.contour)
+        contorno.push_back({mx, my});
+    nlohmann::ordered_json pontos = nlohmann::ordered_json::array();
+    for (const auto& p : o.points)
+        pontos.push_back({{"caso", p.caseName},
+                          {"secao", p.section},
+                          {"NSd", p.nSd},
+                          {"Mx", p.mx},
+                          {"My", p.my},
+                          {"utilizacao", numero(p.utilisation)},
+                          {"simplificada", numero(p.simplified)}});
+    nlohmann::ordered_json j{{"NSd", o.nSd}, {"MRdxx", o.mRdxx}, {"MRdyy", o.mRdyy}, {"contorno", contorno},
+                             {"pontos", pontos}};
+    if (!o.envelope.caseName.empty())
+        j["envoltoriaMinima"] = {{"caso", o.envelope.caseName},
+                                 {"semiEixoX", o.envelope.semiAxisX},
+                                 {"semiEixoY", o.envelope.semiAxisY},
+                                 {"margem", o.envelope.margin},
+                                 {"dentro", o.envelope.inside}};
+    j["utilizacao"] = numero(o.utilisation);
+    return j;
+}
+
 nlohmann::ordered_json norma2014Json(const Program& program, const engine::Column2014Result& r)
 {
     nlohmann::ordered_json j;
@@ -406,8 +433,11 @@ nlohmann::ordered_json documentJson(const Program& program, const PolicyDialogs&
     }
     if (program.Verificacao)
         doc["verificacao"] = verificacaoJson(*program.Verificacao);
-    if (program.norma2014() && program.Resultado2014)
+    if (program.norma2014() && program.Resultado2014) {
         doc["norma2014"] = norma2014Json(program, *program.Resultado2014);
+        if (program.Resultado2014->oblique)
+            doc["verificacaoObliqua"] = obliquaJson(*program.Resultado2014->oblique);
+    }
     if (!program.ResultadosDosCasos.empty()) {
         nlohmann::ordered_json casos = nlohmann::ordered_json::array();
         for (const auto& c : program.ResultadosDosCasos)

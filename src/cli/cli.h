@@ -28,6 +28,8 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
 // The calculation state, keyed by field name.
 nlohmann::ordered_json estadoJson(const Program& program);
 
+// The object "verificacaoObliqua": both directions together, in the units of "estado".
+nlohmann::ordered_json obliquaJson(const engine::ObliqueCheck& check);
 // The object "norma2014" of a calculation by ABNT NBR 6118:2014.
 nlohmann::ordered_json norma2014Json(const Program& program, const engine::Column2014Result& r);
 

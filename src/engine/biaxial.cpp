@@ -34,7 +34,7 @@ void checkForce(double x, const char* name)
 void checkCentred(const BiaxialSection& s)
 {
     double a = 0, ax = 0, ay = 0;
-    for (const Bar& bar : s.bars) {
+    for (const PlacedBar& bar : s.bars) {
         a += bar.area;
         ax += bar.area * bar.x;
         ay += bar.area * bar.y;

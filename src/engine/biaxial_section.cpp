@@ -140,7 +140,7 @@ BiaxialForces concreteForces(const BiaxialSection& s, Direction v, double uTop, 
     return {k * n, k * mx, k * my};
 }
 
-void addBar(BiaxialForces& f, const Bar& bar, double sigma)
+void addBar(BiaxialForces& f, const PlacedBar& bar, double sigma)
 {
     const double force = bar.area * sigma;
     f.n += force;
@@ -163,7 +163,7 @@ void checkSection(const BiaxialSection& s)
     if (!positive(s.steel.fyd) || !positive(s.steel.Es) || !positive(s.steel.epsYd))
         invalid("o aço deve ter fyd e Es positivos (fyd = " + Str(s.steel.fyd) + ", Es = " + Str(s.steel.Es) + ")");
     for (std::size_t i = 0; i < s.bars.size(); ++i) {
-        const Bar& r = s.bars[i];
+        const PlacedBar& r = s.bars[i];
         const std::string bar = "a barra " + std::to_string(i + 1);
         if (!std::isfinite(r.x) || !std::isfinite(r.y) || std::fabs(r.x) > s.width / 2
             || std::fabs(r.y) > s.depth / 2)
@@ -250,7 +250,7 @@ BiaxialForces planeForces(const BiaxialSection& s, const StrainField& p)
         const double H = s.width * std::fabs(v.x) + s.depth * std::fabs(v.y);
         f = concreteForces(s, v, uTop, H, p.centre + grad * uTop, -grad);
     }
-    for (const Bar& bar : s.bars)
+    for (const PlacedBar& bar : s.bars)
         addBar(f, bar, steelStress(s.steel, p.at(bar.x, bar.y)));
     return f;
 }
@@ -263,7 +263,7 @@ PlaneFamily::PlaneFamily(const BiaxialSection& s, double angle) : s_(s), angle_(
     H_ = s.width * std::fabs(v_.x) + s.depth * std::fabs(v_.y);
     barDepth_.reserve(s.bars.size());
     d_ = 0;
-    for (const Bar& bar : s.bars) {
+    for (const PlacedBar& bar : s.bars) {
         barDepth_.push_back(uTop_ - (v_.x * bar.x + v_.y * bar.y));
         d_ = std::max(d_, barDepth_.back());
     }

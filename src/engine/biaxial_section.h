@@ -31,7 +31,7 @@
 
 namespace pilarix::engine {
 
-struct Bar {
+struct PlacedBar {
     double x = 0, y = 0; // cm, from the centre of the rectangle
     double area = 0;     // cm²
 };
@@ -40,7 +40,7 @@ struct BiaxialSection {
     double width = 0, depth = 0; // b (along x) and h (along y), cm
     ConcreteLaw concrete;
     Steel steel;
-    std::vector<Bar> bars; // the gross concrete area is not reduced by the bars
+    std::vector<PlacedBar> bars; // the gross concrete area is not reduced by the bars
 };
 
 // nAltura bars on each face of depth h and nBase on each face of width b, the four

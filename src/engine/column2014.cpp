@@ -104,7 +104,7 @@ constexpr int kRounds = 3;
 
 Column2014Result calculate2014(const ColumnInput& given, const std::vector<Case2014>& cases,
                                const Slenderness2014Input& slenderness, Questions& questions, Memory& memory,
-                               MethodState& state)
+                               MethodState& state, ConcreteRules concrete)
 {
     Column2014Result r;
     Questions2014 told(questions);
@@ -212,6 +212,20 @@ Column2014Result calculate2014(const ColumnInput& given, const std::vector<Case2
         r.failures.push_back(
             fromCheck2014(checks2014::coverBelowBarDiameter(r.detail.cover.nominal, r.detail.bar->diameter)));
         told.tell(r.failures.back());
+    }
+    // Both directions together: every case at its sections, and the envelope of the
+    // minimum moments.
+    if (slenderness.oblique) {
+        try {
+            r.oblique = checkOblique(column, r, concrete);
+            for (const Check& c : r.oblique->failures) {
+                r.failures.push_back(c);
+                told.tell(c);
+            }
+        } catch (const CalcError& e) {
+            r.failures.push_back(checks::sectionNotVerified(e.what()));
+            told.tell(r.failures.back());
+        }
     }
     for (Check& c : r.detail.checks)
         c = with2014Clause(c);

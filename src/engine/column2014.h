@@ -13,6 +13,7 @@
 // the same section turned: the faces of nAltura bars are the compressed ones.
 
 #include "engine/column.h"
+#include "engine/oblique_check.h"
 #include "engine/slenderness.h"
 
 #include <optional>
@@ -34,6 +35,9 @@ struct Case2014 {
 struct Slenderness2014Input {
     double effectiveLengthH = 0, effectiveLengthB = 0; // ℓe, cm; 0: the column's length
     SecondOrderMethod method = SecondOrderMethod::ApproximateCurvature;
+    // The check of both directions together (flexão oblíqua, oblique_check.h) is
+    // part of the verdict; the search may leave it to the arrangement it puts in.
+    bool oblique = true;
 };
 
 struct Direction2014 {
@@ -59,13 +63,15 @@ struct Column2014Result {
     ColumnResult detail;              // the governing case detailed in the direction of h
     std::optional<Check> refusal;     // γn or λ > 90: nothing was designed
     std::vector<Check> failures;      // the rules beyond the detail's own: the other
-                                      // direction and the other cases, c_nom ≥ φ
+                                      // direction and the other cases, c_nom ≥ φ,
+                                      // both directions together
+    std::optional<ObliqueCheck> oblique;
     bool ok() const { return !refusal && detail.ok() && failures.empty(); }
 };
 
 Column2014Result calculate2014(const ColumnInput& column, const std::vector<Case2014>& cases,
                                const Slenderness2014Input& slenderness, Questions& questions, Memory& memory,
-                               MethodState& state);
+                               MethodState& state, ConcreteRules concrete = ConcreteRules::Nbr2014);
 
 // The effective length of a direction as the column uses it (0 means the length).
 double effectiveLength(double given, double columnLength);

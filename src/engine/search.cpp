@@ -1,7 +1,9 @@
 #include "engine/search.h"
 
 #include "engine/catalogue.h"
+#include "engine/biaxial_section.h"
 #include "engine/interaction.h"
+#include "engine/oblique_check.h"
 #include "engine/rules2014.h"
 
 #include "base/calc_error.h"
@@ -56,6 +58,7 @@ bool carriesEveryCase(const ColumnInput& column, const MethodState& s, const std
 // second order; they do not depend on the arrangement.
 struct Directions2014 {
     double nSd = 0, mH = 0, mB = 0, nd = 0;
+    CaseResult2014 both; // the case with both directions' slenderness, for the oblique check
 };
 
 std::vector<Directions2014> directions2014(const SearchInput& input, double gammaN)
@@ -74,10 +77,19 @@ std::vector<Directions2014> directions2014(const SearchInput& input, double gamm
             const ColumnSlenderness cs = columnSlenderness(s);
             if (cs.refusal)
                 throw CalcError(cs.refusal->text);
-            out.push_back({cs.Nd, cs.alongDepth.totalMoment, cs.alongBase.totalMoment, c.Nd});
+            CaseResult2014 both;
+            both.loadCase = c;
+            both.nSd = cs.Nd;
+            both.h.slenderness = cs.alongDepth;
+            both.b.slenderness = cs.alongBase;
+            out.push_back({cs.Nd, cs.alongDepth.totalMoment, cs.alongBase.totalMoment, c.Nd, both});
         } else {
-            out.push_back({c.Nd * gammaN, std::max(std::fabs(c.MdTop), std::fabs(c.MdBase)) * gammaN,
-                           std::max(std::fabs(c.MyTop), std::fabs(c.MyBase)) * gammaN, c.Nd});
+            CaseResult2014 both;
+            both.loadCase = c;
+            both.nSd = c.Nd * gammaN;
+            both.h.slenderness.MA = std::max(std::fabs(c.MdTop), std::fabs(c.MdBase)) * gammaN;
+            both.b.slenderness.MA = std::max(std::fabs(c.MyTop), std::fabs(c.MyBase)) * gammaN;
+            out.push_back({both.nSd, both.h.slenderness.MA, both.b.slenderness.MA, c.Nd, both});
         }
     }
     return out;
@@ -125,7 +137,13 @@ bool carries2014(const ColumnInput& column, const MethodState& s, const std::vec
         for (const Directions2014& c : cases)
             if (!(utilisation(h, c.nSd, c.mH).ratio <= 1) || !(utilisation(b, c.nSd, c.mB).ratio <= 1))
                 return false;
-        return true;
+        // Both directions together, as the verdict of the arrangement put in will ask.
+        std::vector<CaseResult2014> both;
+        for (const Directions2014& c : cases)
+            both.push_back(c.both);
+        const BiaxialSection section = biaxialColumn(column.base, column.depth, s.dLinha, column.barsOnWidthFace,
+                                                     column.barsOnDepthFace, s.AsBarra, concrete, steel);
+        return checkOblique(section, both, *column.gammaN, 0, false).failures.empty();
     } catch (const CalcError&) {
         return false;
     }
