@@ -54,8 +54,8 @@ bool setControlByName(Program& p, const std::string& name, const std::string& va
                                std::pair{"MyBase", &f.MyBase}, std::pair{"LeH", &f.LeH}, std::pair{"LeB", &f.LeB}})
         texts[nome] = caixa;
     // The rule set by its year too, as --norma takes it.
-    if (name == "Norma" && (value == "2001" || value == "2014")) {
-        f.Norma.Text = lists::norma[value == "2001" ? 0 : 1];
+    if (name == "Norma" && (value == "2001" || value == "2014" || value == "2023")) {
+        f.Norma.Text = lists::norma[value == "2001" ? 0 : value == "2014" ? 1 : 2];
         return true;
     }
     if (auto it = texts.find(name); it != texts.end()) {

@@ -6,7 +6,7 @@ namespace pilarix::cli {
 
 const char* const kUsage =
     "uso: pilarix-cli [ARQUIVO...] [--set CONTROLE=VALOR]... [--caso \"NOME;Nd;Md\"]... [--casos CASOS.csv] "
-    "[--norma 2001|2014] [--melhor] [--limite-busca N] [--cobrimento 1|2] [--estribo K] [--salvar SAIDA] [--desenho SAIDA.dxf|.svg|.png] "
+    "[--norma 2001|2014|2023] [--melhor] [--limite-busca N] [--cobrimento 1|2] [--estribo K] [--salvar SAIDA] [--desenho SAIDA.dxf|.svg|.png] "
     "[--memorial SAIDA.pdf] [--csv RESUMO.csv] [--sem-padrao] [--json]";
 
 bool parseOptions(const std::vector<std::string>& args, Options& o, std::string& error)
@@ -61,8 +61,8 @@ bool parseOptions(const std::vector<std::string>& args, Options& o, std::string&
         } else if (a == "--norma") {
             if (!next(v))
                 return false;
-            if (v != "2001" && v != "2014") {
-                error = "--norma aceita 2001 ou 2014, não \"" + v + "\"";
+            if (v != "2001" && v != "2014" && v != "2023") {
+                error = "--norma aceita 2001, 2014 ou 2023, não \"" + v + "\"";
                 return false;
             }
             o.sets.emplace_back("Norma", v);

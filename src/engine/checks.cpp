@@ -86,6 +86,13 @@ Check fckBelowMinimum(double fck)
     return make(CheckId::FckBelowMinimum, "Fck = " + Str(fck / 10) + " , inferior a 20 Mpa (valor mínimo para pilares).");
 }
 
+Check fckAboveC90(double fck)
+{
+    return {CheckId::FckAboveMaximum,
+            "Fck = " + Str(fck / 10) + " MPa, maior que 90 MPa (classe C90, a maior abrangida pela norma).",
+            "Item 8.2.1 da ABNT NBR 6118:2014", true};
+}
+
 Check fckAboveMaximum(double fck)
 {
     return make(CheckId::FckAboveMaximum,

@@ -74,6 +74,7 @@ namespace checks {
 Check fckZero();
 Check fckBelowMinimum(double fck);  // fck in kgf/cm²; the message says MPa
 Check fckAboveMaximum(double fck);
+Check fckAboveC90(double fck); // under ABNT NBR 6118:2014
 Check esZero();
 Check gammaCZero();
 Check gammaSZero();

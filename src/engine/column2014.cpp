@@ -1,5 +1,6 @@
 #include "engine/column2014.h"
 
+#include "engine/class_law_design.h"
 #include "engine/clauses2014.h"
 #include "engine/interaction.h"
 #include "engine/rules2014.h"
@@ -62,10 +63,21 @@ ColumnSlenderness slendernessOf(const ColumnInput& column, const Case2014& c, co
     return r;
 }
 
+// Above C50 (fck in kgf/cm²): the class's own concrete law, by strain compatibility.
+constexpr double kZonesMethodUpTo = 500;
+
 // The design of one direction by solicitation zones at d' (typed, or found from the
-// cover), the forces with γn as 2014 gives it.
-double designedArea(ColumnInput in, double gammaN, double moment)
+// cover), the forces with γn as 2014 gives it; above C50 by strain compatibility
+// with the law of the class (the same section turned for the direction of b: Mx).
+double designedArea(ColumnInput in, double gammaN, double moment, ConcreteRules rules)
 {
+    if (in.fck > kZonesMethodUpTo) {
+        const double dLinha = in.dLinha.automatic || in.dLinha.typed <= 0 ? 3.0 : in.dLinha.typed;
+        const auto area = requiredAreaByClassLaw(in, dLinha, in.Nd * gammaN, moment, 0, rules);
+        if (!area)
+            throw CalcError(checks::beyondAnyArrangement(in.Nd * gammaN, moment).text);
+        return *area;
+    }
     in.gammaN = gammaN;
     in.Md = moment / gammaN;
     Memory fresh;
@@ -77,15 +89,15 @@ double designedArea(ColumnInput in, double gammaN, double moment)
 
 // Every case in both directions at the d' of `column`; the index of the case and the
 // direction needing the most steel (the first of equal ones, h before b).
-void designCases(const ColumnInput& column, Column2014Result& r)
+void designCases(const ColumnInput& column, Column2014Result& r, ConcreteRules rules)
 {
     double most = -1;
     for (std::size_t i = 0; i < r.cases.size(); ++i) {
         CaseResult2014& c = r.cases[i];
         ColumnInput in = column;
         in.Nd = c.loadCase.Nd;
-        c.h.asNec = designedArea(in, r.gammaN, c.h.slenderness.totalMoment);
-        c.b.asNec = designedArea(turned(in), r.gammaN, c.b.slenderness.totalMoment);
+        c.h.asNec = designedArea(in, r.gammaN, c.h.slenderness.totalMoment, rules);
+        c.b.asNec = designedArea(turned(in), r.gammaN, c.b.slenderness.totalMoment, rules);
         for (const auto& [area, direction] : {std::pair{c.h.asNec, 'h'}, std::pair{c.b.asNec, 'b'}})
             if (area > most) {
                 most = area;
@@ -138,8 +150,16 @@ Column2014Result calculate2014(const ColumnInput& given, const std::vector<Case2
     if (r.cases.empty())
         return r;
 
+    if (column.fck > kZonesMethodUpTo) {
+        r.failures.clear();
+        const Check note{CheckId::Rule2014,
+                         "Concreto acima de C50: a armadura de cada direção vem da compatibilidade de deformações "
+                         "com o diagrama tensão-deformação da classe, não do método das zonas de solicitação.",
+                         "Item 8.2.10.1 da ABNT NBR 6118:2014", true};
+        told.tell(note);
+    }
     try {
-        designCases(column, r);
+        designCases(column, r, concrete);
     } catch (const CalcError& e) {
         r.detail.failure = e.what();
         return r;
@@ -162,7 +182,7 @@ Column2014Result calculate2014(const ColumnInput& given, const std::vector<Case2
         settled.dLinha = {false, r.detail.design.dLinha};
         const double before = r.asNec;
         try {
-            designCases(settled, r);
+            designCases(settled, r, concrete);
         } catch (const CalcError& e) {
             r.detail.failure = e.what();
             return r;

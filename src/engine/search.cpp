@@ -1,6 +1,7 @@
 #include "engine/search.h"
 
 #include "engine/catalogue.h"
+#include "engine/class_law_design.h"
 #include "engine/biaxial_section.h"
 #include "engine/interaction.h"
 #include "engine/oblique_check.h"
@@ -97,7 +98,7 @@ std::vector<Directions2014> directions2014(const SearchInput& input, double gamm
 
 // The largest area of every case and direction for this arrangement (d' from the cover,
 // as the candidate's pass starts it).
-double area2014(ColumnInput column, const std::vector<Directions2014>& cases, double gammaN)
+double area2014(ColumnInput column, const std::vector<Directions2014>& cases, double gammaN, ConcreteRules rules)
 {
     double most = 0;
     column.gammaN = gammaN;
@@ -112,6 +113,14 @@ double area2014(ColumnInput column, const std::vector<Directions2014>& cases, do
             }
             in.Nd = c.nd;
             in.Md = (turn == 0 ? c.mH : c.mB) / gammaN;
+            if (in.fck > 500) {
+                // Above C50, the class's own law (class_law_design.h), d' at its start.
+                const auto a = requiredAreaByClassLaw(in, 3.0, c.nSd, turn == 0 ? c.mH : c.mB, 0, rules);
+                if (!a)
+                    throw CalcError(checks::beyondAnyArrangement(c.nSd, turn == 0 ? c.mH : c.mB).text);
+                most = std::max(most, *a);
+                continue;
+            }
             Memory fresh;
             const ColumnResult d = design(in, fresh);
             if (d.failure)
@@ -124,7 +133,8 @@ double area2014(ColumnInput column, const std::vector<Directions2014>& cases, do
 }
 
 // The candidate's section carries every case in both directions.
-bool carries2014(const ColumnInput& column, const MethodState& s, const std::vector<Directions2014>& cases)
+bool carries2014(const ColumnInput& column, const MethodState& s, const std::vector<Directions2014>& cases,
+                 ConcreteRules rules)
 {
     try {
         const Concrete concrete = designConcrete(column.fck, column.gammaC);
@@ -142,7 +152,7 @@ bool carries2014(const ColumnInput& column, const MethodState& s, const std::vec
         for (const Directions2014& c : cases)
             both.push_back(c.both);
         const BiaxialSection section = biaxialColumn(column.base, column.depth, s.dLinha, column.barsOnWidthFace,
-                                                     column.barsOnDepthFace, s.AsBarra, concrete, steel);
+                                                     column.barsOnDepthFace, s.AsBarra, concrete, steel, rules);
         return checkOblique(section, both, *column.gammaN, 0, false).failures.empty();
     } catch (const CalcError&) {
         return false;
@@ -201,7 +211,7 @@ SearchResult search(const SearchInput& input, Memory& memory, MethodState& state
                 if (rules2014) {
                     // The governing case's direction of h is the candidate's own
                     // pass; the area is the largest of them all.
-                    tried.requiredAreaAtLeast = area2014(tried, cases2014, *column.gammaN);
+                    tried.requiredAreaAtLeast = area2014(tried, cases2014, *column.gammaN, input.concrete2014);
                     const auto g = std::max_element(cases2014.begin(), cases2014.end(),
                                                     [](const auto& a, const auto& b) { return a.mH < b.mH; });
                     if (g != cases2014.end()) {
@@ -224,7 +234,7 @@ SearchResult search(const SearchInput& input, Memory& memory, MethodState& state
                                                         severalCases || rules2014 ? fresh : memory, state);
                     // A solution carries its forces by strain compatibility, every
                     // case of them, whatever the method found.
-                    if (c.passedSearch && rules2014 && !carries2014(tried, state, cases2014))
+                    if (c.passedSearch && rules2014 && !carries2014(tried, state, cases2014, input.concrete2014))
                         c.passedSearch = false;
                     else if (c.passedSearch && !rules2014
                              && !carriesEveryCase(tried, state,

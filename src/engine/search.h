@@ -36,6 +36,7 @@ struct SearchInput {
     // them all in both directions.
     std::vector<Case2014> cases2014;
     Slenderness2014Input slenderness2014;
+    ConcreteRules concrete2014 = ConcreteRules::Nbr2014; // ηc of 2023, or not
     double maxBarsOnWidthFace = 2; // bars that fit on a face of width b
     double maxBarsOnDepthFace = 2; // bars that fit on a face of depth h
     // The most arrangements the search tries before it asks (0: no limit): past it

@@ -319,7 +319,7 @@ bool registrosExtras(const Program& p, std::vector<std::string>& e, std::string&
     if (dLinhaReescrita(p))
         e.push_back(std::string(kDDigitado) + ";" + files::percentEncoded(*p.DLinhaDigitado));
     if (p.norma2014())
-        e.push_back(std::string(kNorma) + ";2014");
+        e.push_back(std::string(kNorma) + (p.norma2023() ? ";2023" : ";2014"));
     for (const auto& [nome, caixa] : caixas2014()) {
         const std::string& v = (p.Form1.*caixa).Text;
         if (v.empty())
@@ -342,7 +342,7 @@ struct Extras {
     int bitolaFixa = 0;
     int dAutomatico = 0;
     std::optional<std::string> dDigitado;
-    bool norma2014 = false;
+    int norma = 0; // the entry of the list: 0 the 2001 project, 1 2014, 2 2023
     bool rigidez = false;
     std::vector<std::pair<TextBox Form1Model::*, std::string>> caixas2014;
 };
@@ -389,10 +389,10 @@ Extras leExtras(const std::vector<std::string>& campos, const std::string& nome,
             }
             primeiroCaso = false;
         } else if (p[0] == kNorma) {
-            if (p.size() != 2 || p[1] != "2014")
-                quebrado("a norma se grava como Norma;2014");
+            if (p.size() != 2 || (p[1] != "2014" && p[1] != "2023"))
+                quebrado("a norma se grava como Norma;2014 ou Norma;2023");
             else
-                x.norma2014 = true;
+                x.norma = p[1] == "2014" ? 1 : 2;
         } else if (p[0] == kSegundaOrdem) {
             if (p.size() != 2 || p[1] != "rigidez")
                 quebrado("o método da segunda ordem se grava como SegundaOrdem;rigidez");
@@ -573,7 +573,7 @@ void Program::Carrega33()
     BitolaFixa = extras.bitolaFixa;
     Form1.Check3.Value = extras.dAutomatico;
     // A file without them is a project of the 2001 rules.
-    Form1.Norma.Text = lists::norma[extras.norma2014 ? 1 : 0];
+    Form1.Norma.Text = lists::norma[static_cast<std::size_t>(extras.norma)];
     Form1.SegundaOrdem.Text = extras.rigidez ? "rigidez" : "curvatura";
     for (const auto& [nome, caixa] : caixas2014())
         (Form1.*caixa).Text.clear();

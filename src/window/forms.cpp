@@ -13,7 +13,7 @@ const std::vector<std::string> tensao{"MPa",   "Kgf/mm2", "Kgf/cm2", "Kgf/m2", "
 const std::vector<std::string> aco{"Aço CA-25A", "Aço CA-50A", "Aço CA-60A",
                                    "Aço CA-25B", "Aço CA-50B", "Aço CA-60B"};
 const std::vector<std::string> agressividade{"I", "II", "III", "IV"};
-const std::vector<std::string> norma{"Projeto de revisão da NB1 / 2001", "ABNT NBR 6118:2014"};
+const std::vector<std::string> norma{"Projeto de revisão da NB1 / 2001", "ABNT NBR 6118:2014", "ABNT NBR 6118:2023"};
 const std::vector<std::string> segundaOrdem{"curvatura", "rigidez"};
 namespace {
 // The bar lists take their labels from the catalogue: stirrups are bars 1 to 4,

@@ -149,7 +149,7 @@ extern const std::vector<std::string> momento;     // Combo5
 extern const std::vector<std::string> tensao;      // Combo6, Combo7
 extern const std::vector<std::string> aco;         // Combo1
 extern const std::vector<std::string> agressividade; // Combo2
-extern const std::vector<std::string> norma;         // Norma: the 2001 project, ABNT NBR 6118:2014
+extern const std::vector<std::string> norma;         // Norma: the 2001 project, ABNT NBR 6118:2014 and :2023
 extern const std::vector<std::string> segundaOrdem;  // SegundaOrdem: "curvatura", "rigidez"
 extern const std::vector<std::string> estribo;     // Combo3, Form8.Combo1
 extern const std::vector<std::string> longitudinal; // Form8.Combo3

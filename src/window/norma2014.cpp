@@ -39,7 +39,8 @@ engine::Slenderness2014Input Program::esbeltez2014() const
 void Program::calcula2014(engine::Questions& perguntas)
 {
     engine::Column2014Result r =
-        engine::calculate2014(Entrada, casos2014(), esbeltez2014(), perguntas, memoria, metodo);
+        engine::calculate2014(Entrada, casos2014(), esbeltez2014(), perguntas, memoria, metodo,
+                              norma2023() ? engine::ConcreteRules::Nbr2023 : engine::ConcreteRules::Nbr2014);
     for (const auto& c : r.cases) {
         if (r.cases.size() < 2)
             break;

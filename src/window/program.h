@@ -108,7 +108,9 @@ public:
     // Under ABNT NBR 6118:2014: γn, both directions of every case, their areas and
     // utilisations (the detail is Resultado).
     std::optional<engine::Column2014Result> Resultado2014;
-    bool norma2014() const { return Form1.Norma.Text == lists::norma[1]; }
+    // 2023 is 2014 with ηc in the concrete's stress above C40.
+    bool norma2014() const { return Form1.Norma.Text == lists::norma[1] || norma2023(); }
+    bool norma2023() const { return Form1.Norma.Text == lists::norma[2]; }
     // The load cases with their end moments in both directions, and the slenderness
     // inputs, as Ler02 read the window (window/norma2014.cpp).
     std::vector<engine::Case2014> casos2014();

@@ -98,8 +98,11 @@ void Program::Ler02()
     const bool repetido = metodo.Recalcula == engine::Recalculation::Yes;
     if (Fck < 200 && !repetido)
         erro(engine::checks::fckBelowMinimum(Fck));
-    if (Fck > 500 && !repetido)
-        erro(engine::checks::fckAboveMaximum(Fck));
+    // ABNT NBR 6118:2014 covers the classes up to C90 (8.2.1); the 2001 project, C50.
+    if (norma2014() ? Fck > 900 : Fck > 500) {
+        if (!repetido)
+            erro(norma2014() ? engine::checks::fckAboveC90(Fck) : engine::checks::fckAboveMaximum(Fck));
+    }
 
     // 12-13.
     UnidadeNome = f.Combo7.Text;

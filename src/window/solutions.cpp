@@ -148,6 +148,7 @@ void buscaMelhorSolucao(Program& p)
             in.column.rules = engine::RuleSet::Nbr2014;
             in.cases2014 = p.casos2014();
             in.slenderness2014 = p.esbeltez2014();
+            in.concrete2014 = p.norma2023() ? engine::ConcreteRules::Nbr2023 : engine::ConcreteRules::Nbr2014;
         } else if (!p.OutrosCasos.empty()) {
             in.cases = p.casosDeCarga();
         }
