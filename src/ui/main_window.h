@@ -42,6 +42,7 @@ class QUndoStack;
 
 namespace pilarix::ui {
 
+class BoxCheck;
 class QtDialogs;
 class SectionCanvas;
 class OtherValuesDialog;
@@ -184,6 +185,7 @@ private:
     KeyFilter* filtroComSinal_;
     KeyFilter* filtroBitola_;
     KeyFilter* filtroNenhum_;
+    BoxCheck* caixasConferidas_; // every numeric box's text, refused whole while the program cannot read it
 
     QWidget* colunaEntradas_ = nullptr;
     QWidget* colunaOpcoes_ = nullptr;
@@ -203,6 +205,7 @@ private:
     QPointer<HelpDialog> ajuda_;
     QLineEdit* utilizacao_ = nullptr;
     QLabel* avisoVerificacao_ = nullptr;
+    QLabel* casoDeterminante_ = nullptr;
     QLabel* avisoDesatualizado_ = nullptr;
     QMenu* menuRecentes_ = nullptr;
     QUndoStack* pilhaDesfazer_ = nullptr;

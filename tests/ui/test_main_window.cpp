@@ -490,7 +490,10 @@ TEST(UiJanela, MenusHoldTheProgramsItemsInTheirOrder)
     ASSERT_NE(valores, nullptr);
     EXPECT_TRUE(naOrdem(menus[0]->menu()->actions(), {QStringLiteral("&Abrir arquivo..."), QStringLiteral("Carre&gar valores padrões"),
                                            QStringLiteral("&Salvar como..."), QStringLiteral("Salvar valores como &padrão"),
-                                           QStringLiteral("S&obre"), QStringLiteral("Sai&r")}));
+                                           QStringLiteral("Sai&r")}));
+    // "Sobre" is where a desktop program has it: under "Ajuda", after the help.
+    EXPECT_TRUE(naOrdem(menus.last()->menu()->actions(),
+                        {QStringLiteral("&Ajuda do Pilarix"), QStringLiteral("S&obre o Pilarix")}));
     EXPECT_TRUE(naOrdem(valores->menu()->actions(), {QStringLiteral("Outros")}));
 }
 
