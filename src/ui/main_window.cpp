@@ -1018,7 +1018,31 @@ bool MainWindow::calculaConferido(const std::function<void()>& handler, Edicao e
 
 void MainWindow::calcula()
 {
-    calculaConferido([this] { program_->Command1_Click(); });
+    calculaConferido([this] {
+        // The stirrup chosen in "Escolha dos estribos" for an earlier column is not
+        // carried into this one: the same project gives the same stirrup whatever
+        // was calculated before it in this window.
+        program_->memoria.stirrup = {};
+        program_->Command1_Click();
+    });
+    dizEstriboMantido();
+}
+
+void MainWindow::dizEstriboMantido()
+{
+    // A repeated pass (after the cover was corrected) asks nothing: it keeps the
+    // stirrup of the first pass, at the spacing it computes itself. The window says
+    // so, as the method's own memory decided it.
+    const auto& p = *program_;
+    if (!p.Resultado || p.Resultado->passes < 2 || !p.Form1.Option6.Value)
+        return;
+    for (const auto& r : p.MensagensDoCalculo)
+        if (r.kind == DialogRecord::Kind::Stirrup) {
+            mostraNaBarra(QStringLiteral("Estribo %1: escolhido na primeira passada e mantido, sem nova pergunta, "
+                                         "na passada repetida após a correção do cobrimento.")
+                              .arg(qs(p.Resultado->stirrup.text)));
+            return;
+        }
 }
 
 void MainWindow::valoresPadrao()
@@ -1402,6 +1426,19 @@ void MainWindow::abreEstimativaDLinha()
             program_->Form5, [this] { executa([this] { program_->Form5Calcula(); }); },
             [this] { executa([this] { program_->Form5Aceita(); }, Edicao::Usuario, QStringLiteral("estimativa de d'")); },
             this);
+    // It starts from the bar, the stirrup and the cover of the last calculation.
+    if (const auto& r = program_->Resultado; r && r->detailed && r->bar) {
+        auto& f5 = program_->Form5;
+        for (int i = 1; i <= engine::kBarCount; ++i) {
+            const auto& b = engine::bar(i);
+            if (i <= engine::kLastStirrupBar && std::abs(b.diameter - r->stirrup.diameter) < 1e-9)
+                f5.Combo1.Text = std::string(b.labelComma);
+            if (i == r->bar->index)
+                f5.Combo2.Text = std::string(b.labelComma);
+        }
+        f5.Text1.Text = Str(r->cover.effective * 10);
+        program_->Form5Calcula();
+    }
     estimativa_->carrega();
     estimativa_->exec();
 }

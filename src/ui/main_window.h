@@ -146,6 +146,7 @@ private:
     bool entradaConfere();
     bool calculaConferido(const std::function<void()>& handler, Edicao edicao = Edicao::Programa);
     void valoresPadrao();
+    void dizEstriboMantido();
     void escolheBitola(int i);
     void recusouTecla(QWidget* caixa, const QString& motivo);
     void mostraNaBarra(const QString& texto);
