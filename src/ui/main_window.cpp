@@ -17,6 +17,7 @@
 #include "ui/section_canvas.h"
 #include "ui/solutions_dialog.h"
 #include "ui/wheel_guard.h"
+#include "window/solution_details.h"
 #include "window/units.h"
 #include "window/window_input.h"
 
@@ -776,7 +777,12 @@ QWidget* MainWindow::montaBotoes()
     });
     anterior->setFixedWidth(32);
     seguinte->setFixedWidth(32);
+    // Which solution of the list is in the window: "3 de 40".
+    posicaoNaLista_ = new QLabel;
+    posicaoNaLista_->setObjectName(QStringLiteral("lblSolucaoAtual"));
+    posicaoNaLista_->setVisible(false);
     h->addWidget(anterior);
+    h->addWidget(posicaoNaLista_);
     h->addWidget(seguinte);
     h->addWidget(botao(f.Command11, QStringLiteral("Command11"), [this] {
         executa([this] { program_->Command11_Click(); });
@@ -907,6 +913,8 @@ void MainWindow::atualiza()
             desenho_->clearSection();
     }
     desenho_->setStale(desatualizado_);
+    posicaoNaLista_->setVisible(f.Command9.Visible && program_->NSolucoes > 0);
+    posicaoNaLista_->setText(QStringLiteral("%1 de %2").arg(program_->SolucaoAtual).arg(program_->Form11.RowsShown));
     desenho_->setPlaceholderText(f.Image1Visible ? QStringLiteral("Pilarix Normal") : QString());
     mostraVerificacao();
     avisoDesatualizado_->setVisible(desatualizado_);
@@ -1448,7 +1456,7 @@ void MainWindow::abreSolucoes()
     if (!solucoes_)
         solucoes_ = new SolutionsDialog(
             program_->Form11, [this] { executa([this] { program_->Form11Escolhe(); }); }, this);
-    solucoes_->atualiza();
+    solucoes_->poeDetalhes(detalhaSolucoes(*program_));
     solucoes_->exec();
 }
 

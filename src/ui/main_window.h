@@ -207,6 +207,7 @@ private:
     QLineEdit* utilizacao_ = nullptr;
     QLabel* avisoVerificacao_ = nullptr;
     QLabel* casoDeterminante_ = nullptr;
+    QLabel* posicaoNaLista_ = nullptr;
     QLabel* avisoDesatualizado_ = nullptr;
     QMenu* menuRecentes_ = nullptr;
     QUndoStack* pilhaDesfazer_ = nullptr;

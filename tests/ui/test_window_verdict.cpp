@@ -5,6 +5,8 @@
 
 #include "ui_support.h"
 
+#include "base/number_text.h"
+
 #include "ui/about_dialog.h"
 #include "ui/cases_dialog.h"
 #include "ui/section_canvas.h"
@@ -176,4 +178,35 @@ TEST(UiSobre, TheAboutBoxStatesTheVersion)
     ASSERT_NE(versao, nullptr);
     EXPECT_TRUE(versao->text().startsWith(QStringLiteral("Versão "))) << versao->text().toStdString();
     EXPECT_NE(versao->text(), QStringLiteral("Versão ?"));
+}
+
+#include "ui/solutions_dialog.h"
+#include "window/solution_details.h"
+
+TEST(UiSolucoes, EachRowShowsItsBarCountAreaUtilisationStirrupAndTotalSteel)
+{
+    Calculada j;
+    j.w.show();
+    j.clica("Command8");
+    ASSERT_GT(j.p.NSolucoes, 3);
+    auto* posicao = j.w.findChild<QLabel*>(QStringLiteral("lblSolucaoAtual"));
+    EXPECT_TRUE(posicao->isVisibleTo(&j.w));
+    j.clica("Command9");
+    EXPECT_EQ(posicao->text(), QStringLiteral("2 de %1").arg(j.p.Form11.RowsShown));
+
+    const auto detalhes = detalhaSolucoes(j.p);
+    ui::SolutionsDialog d(j.p.Form11, {});
+    d.poeDetalhes(detalhes);
+    for (std::size_t i = 0; i < 3; ++i) {
+        const auto& x = detalhes[i];
+        const int linha = static_cast<int>(i);
+        ASSERT_TRUE(x.calculado) << i;
+        EXPECT_NEAR(x.pesoLongitudinal, Val(j.p.Form11.Rows[i].Peso), 0.01) << "the row recalculated is the row listed";
+        EXPECT_GT(x.pesoTotal, x.pesoLongitudinal) << "the stirrups weigh something";
+        EXPECT_LE(x.utilizacao, 1) << "the search keeps only what carries the forces";
+        EXPECT_EQ(x.barras, 2 * (Val(j.p.Form11.Rows[i].nBase) + Val(j.p.Form11.Rows[i].nAltura)) - 4);
+        EXPECT_TRUE(d.caixa(linha, ui::SolutionsDialog::kEstribo)->text().contains(QStringLiteral(" c/")));
+        EXPECT_TRUE(d.caixa(linha, ui::SolutionsDialog::kUtilizacao)->text().endsWith(QStringLiteral("%")));
+        EXPECT_FALSE(d.caixa(linha, ui::SolutionsDialog::kBarra)->text().isEmpty());
+    }
 }
