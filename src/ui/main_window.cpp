@@ -196,7 +196,12 @@ MainWindow::MainWindow(DialogPort* dialogs, QWidget* parent) : QMainWindow(paren
     colunas->setSpacing(8);
     colunas->addWidget(rolagemEntradas_);
     colunas->addWidget(centroDesenho, 3);
-    colunas->addWidget(rolagemResultados_, 1);
+    auto* direita = new QVBoxLayout;
+    direita->setSpacing(4);
+    direita->addWidget(rolagemResultados_, 1);
+    direita->addWidget(veredito_);
+    veredito_->setMaximumWidth(380);
+    colunas->addLayout(direita, 1);
     auto* raiz = new QVBoxLayout(centro);
     raiz->setContentsMargins(8, 6, 8, 4);
     raiz->addLayout(colunas, 1);
@@ -732,7 +737,6 @@ QWidget* MainWindow::montaResultados()
     casoDeterminante_->setVisible(false);
     gv->addWidget(casoDeterminante_, 2, 0, 1, 3);
     gv->setColumnStretch(2, 1);
-    v->addWidget(ver);
 
     auto* err = quadro("Erros", "Frame14");
     auto* gr = new QHBoxLayout(err);
@@ -742,12 +746,18 @@ QWidget* MainWindow::montaResultados()
     negrito.setBold(true);
     t30->setFont(negrito);
     gr->addWidget(t30);
-    v->addWidget(err);
     v->addStretch();
+    // The verdict stays in sight under the results, which scroll on a short screen.
+    veredito_ = new QWidget;
+    auto* vv = new QVBoxLayout(veredito_);
+    vv->setContentsMargins(0, 0, 0, 0);
+    vv->addWidget(ver);
+    vv->addWidget(err);
     // The column of results is the tallest: its frames hold their boxes close.
-    for (auto* q : coluna->findChildren<QGroupBox*>())
-        if (q->layout())
-            q->layout()->setContentsMargins(8, 4, 8, 4);
+    for (auto* w : {coluna, veredito_})
+        for (auto* q : w->findChildren<QGroupBox*>())
+            if (q->layout())
+                q->layout()->setContentsMargins(8, 4, 8, 4);
     coluna->setMinimumWidth(250);
     return coluna;
 }

@@ -208,6 +208,7 @@ private:
     QLabel* avisoVerificacao_ = nullptr;
     QLabel* casoDeterminante_ = nullptr;
     QLabel* posicaoNaLista_ = nullptr;
+    QWidget* veredito_ = nullptr; // "Verificação" and "Erros", never scrolled away
     QLabel* avisoDesatualizado_ = nullptr;
     QMenu* menuRecentes_ = nullptr;
     QUndoStack* pilhaDesfazer_ = nullptr;
