@@ -141,6 +141,17 @@ bool exportPng(const engine::SectionGeometry& g, const std::string& path, double
     return saveWholeFile(buffer.data(), path, error);
 }
 
+engine::SectionGeometry stampedUnverified(const engine::SectionGeometry& g, const std::string& reason)
+{
+    engine::SectionGeometry stamped = g;
+    // The labels' height, as the geometry gives it (at least 1.5 cm).
+    double text = 1.5;
+    for (const auto& l : g.labels)
+        text = std::max(text, l.height);
+    stamped.labels.push_back({{0, g.depth + 1.5 * text}, 1.3 * text, "NÃO VERIFICADO: " + reason});
+    return stamped;
+}
+
 bool exportDrawing(const engine::SectionGeometry& g, const std::string& path, double scale, std::string& error)
 {
     if (path.empty()) {

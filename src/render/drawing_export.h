@@ -39,6 +39,12 @@ QSize exportSize(const engine::SectionGeometry& geometry, double scale);
 bool exportSvg(const engine::SectionGeometry& geometry, const std::string& path, double scale, std::string& error);
 bool exportPng(const engine::SectionGeometry& geometry, const std::string& path, double scale, std::string& error);
 
+// The drawing of a design that does not hold ("erro", or input changed since it was
+// calculated) with a line "NÃO VERIFICADO: <reason>" above the section, in the
+// labels' own height and a little larger, so that DXF, SVG and PNG alike carry it
+// and nobody builds from it unawares.
+engine::SectionGeometry stampedUnverified(const engine::SectionGeometry& geometry, const std::string& reason);
+
 // The format by the file's suffix, in any case: .dxf (at real size, the scale not
 // used), .svg or .png. Any other suffix is refused with a message saying which
 // ones are known.

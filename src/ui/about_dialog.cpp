@@ -1,5 +1,7 @@
 #include "ui/about_dialog.h"
 
+#include "report/report_data.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -18,6 +20,12 @@ AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent)
     f.setBold(true);
     f.setPointSizeF(f.pointSizeF() + 5);
     nome->setFont(f);
+
+    // The version the calculation report states too, from the project's own.
+    auto* versao = new QLabel(QStringLiteral("Versão %1").arg(QString::fromUtf8(report::programVersion().data(),
+                                                                                 static_cast<int>(report::programVersion().size()))),
+                              this);
+    versao->setObjectName(QStringLiteral("lblVersao"));
 
     auto* texto = new QLabel(this);
     texto->setTextFormat(Qt::PlainText);
@@ -40,6 +48,7 @@ AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent)
 
     auto* raiz = new QVBoxLayout(this);
     raiz->addWidget(nome);
+    raiz->addWidget(versao);
     raiz->addSpacing(6);
     raiz->addWidget(texto);
     raiz->addSpacing(10);

@@ -2,11 +2,13 @@
 
 #include "base/number_text.h"
 #include "ui/interaction_plot.h"
+#include "ui/key_filters.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableWidget>
@@ -32,9 +34,7 @@ QTableWidgetItem* resultado(const QString& texto)
 
 QString numeroNormalizado(const QString& texto)
 {
-    QString t = texto.trimmed();
-    if (t.count(QLatin1Char(',')) == 1 && !t.contains(QLatin1Char('.')))
-        t.replace(QLatin1Char(','), QLatin1Char('.'));
+    const QString t = numeroColado(texto);
     return IsNumber(t.toStdString()) ? t : QString();
 }
 
@@ -89,8 +89,9 @@ CasesDialog::CasesDialog(Program& program, std::function<void()> alterou, QWidge
     resize(720, 360);
 }
 
-void CasesDialog::carrega()
+void CasesDialog::carrega(bool desatualizados)
 {
+    desatualizados_ = desatualizados;
     carregando_ = true;
     const auto& f = p_.Form1;
     tabela_->setHorizontalHeaderLabels({QStringLiteral("Nome"), QStringLiteral("Nd (%1)").arg(qs(f.Combo4.Text)),
@@ -111,9 +112,10 @@ void CasesDialog::carrega()
         linha(static_cast<int>(i) + 1, c.nome, c.nd, c.md);
     }
     // The results of the last calculation with these cases.
+    // After an edit they stay, greyed, on the rows they were calculated for.
     const auto& r = p_.ResultadosDosCasos;
-    if (r.size() == static_cast<std::size_t>(tabela_->rowCount())) {
-        for (int i = 0; i < tabela_->rowCount(); ++i) {
+    if (r.size() >= 2) {
+        for (int i = 0; i < std::min(tabela_->rowCount(), static_cast<int>(r.size())); ++i) {
             const auto& c = r[static_cast<std::size_t>(i)];
             tabela_->item(i, kZona)->setText(QString::number(static_cast<int>(c.zona)) + QStringLiteral(" (")
                                               + QString::fromLatin1(engine::zoneLetter(c.zona)) + QStringLiteral(")"));
@@ -126,7 +128,9 @@ void CasesDialog::carrega()
                 QFont fonte = item->font();
                 fonte.setBold(c.governa);
                 item->setFont(fonte);
-                if (falha)
+                if (desatualizados_ && col >= kZona)
+                    item->setForeground(QColor(150, 150, 150));
+                else if (falha)
                     item->setForeground(QColor(205, 30, 30));
             }
             if (c.governa)
@@ -137,6 +141,14 @@ void CasesDialog::carrega()
 }
 
 void CasesDialog::avisa(const QString& texto) { aviso_->setText(texto); }
+
+void CasesDialog::mudou()
+{
+    // The window marks its results out of date and shows the table again.
+    if (alterou_)
+        alterou_();
+    carrega(desatualizados_);
+}
 
 void CasesDialog::editou(int linha, int coluna)
 {
@@ -180,22 +192,19 @@ void CasesDialog::guarda()
     p_.OutrosCasos.clear();
     for (int i = 1; i < tabela_->rowCount(); ++i)
         p_.OutrosCasos.push_back({texto(i, kNome), texto(i, kNd), texto(i, kMd)});
-    // Results of other cases are not the results of these.
-    p_.ResultadosDosCasos.clear();
-    if (alterou_)
-        alterou_();
-    carrega();
+    // The results stay, greyed by the window, until the next calculation.
+    mudou();
 }
 
 void CasesDialog::adiciona()
 {
     const auto n = p_.OutrosCasos.size() + 2;
     p_.OutrosCasos.push_back({std::to_string(n), p_.Form1.Text16.Text, p_.Form1.Text17.Text});
-    p_.ResultadosDosCasos.clear();
-    if (alterou_)
-        alterou_();
-    carrega();
+    mudou();
+    // The cursor in the new row's name, ready to be typed over.
     tabela_->setCurrentCell(tabela_->rowCount() - 1, kNome);
+    tabela_->setFocus();
+    tabela_->editItem(tabela_->item(tabela_->rowCount() - 1, kNome));
 }
 
 void CasesDialog::remove()
@@ -206,21 +215,33 @@ void CasesDialog::remove()
         return;
     }
     p_.OutrosCasos.erase(p_.OutrosCasos.begin() + (linha - 1));
-    p_.ResultadosDosCasos.clear();
     avisa(QString());
-    if (alterou_)
-        alterou_();
-    carrega();
+    mudou();
 }
 
 bool CasesDialog::cola(const QString& texto)
 {
     std::vector<CasoDeCarga> novos;
     const QStringList linhas = texto.split(QLatin1Char('\n'));
+    bool primeira = true, salteiCabecalho = false;
     for (int i = 0; i < linhas.size(); ++i) {
         const QString l = linhas[i].trimmed();
         if (l.isEmpty())
             continue;
+        // A spreadsheet's block often starts with its headings ("Caso  Nd  Md"):
+        // a first row whose forces are no numbers at all is one of them.
+        const bool cabecalho = primeira && [&] {
+            const QStringList c = l.split(QLatin1Char('\t'));
+            for (int k = c.size() >= 3 ? 1 : 0; k < c.size(); ++k)
+                if (!numeroNormalizado(c[k]).isEmpty())
+                    return false;
+            return c.size() >= 2;
+        }();
+        primeira = false;
+        if (cabecalho) {
+            salteiCabecalho = true;
+            continue;
+        }
         QStringList campos = l.split(QLatin1Char('\t'));
         if (campos.size() == 2)
             campos.prepend(QString::number(p_.OutrosCasos.size() + novos.size() + 2));
@@ -242,14 +263,22 @@ bool CasesDialog::cola(const QString& texto)
         return false;
     }
     p_.OutrosCasos.insert(p_.OutrosCasos.end(), novos.begin(), novos.end());
-    p_.ResultadosDosCasos.clear();
-    avisa(QString());
-    if (alterou_)
-        alterou_();
-    carrega();
+    avisa(salteiCabecalho ? QStringLiteral("A primeira linha colada (títulos) foi deixada de lado.") : QString());
+    mudou();
     return true;
 }
 
 void CasesDialog::colaDaAreaDeTransferencia() { cola(QApplication::clipboard()->text()); }
+
+void CasesDialog::keyPressEvent(QKeyEvent* event)
+{
+    // Ctrl+V over the table pastes a spreadsheet's block as new cases; a cell being
+    // edited takes Ctrl+V itself, and the key does not come here.
+    if (event->matches(QKeySequence::Paste)) {
+        colaDaAreaDeTransferencia();
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}
 
 } // namespace pilarix::ui

@@ -1,6 +1,10 @@
 #include "ui/d_estimate_dialog.h"
 
+#include "base/number_text.h"
+#include "ui/box_check.h"
 #include "ui/key_filters.h"
+#include "ui/wheel_guard.h"
+#include "window/window_input.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -45,7 +49,7 @@ DEstimateDialog::DEstimateDialog(Form5Model& form, std::function<void()> calcula
         [this](QWidget*, const QString& motivo) {
             QApplication::beep();
             QToolTip::showText(text1_->mapToGlobal(QPoint(0, text1_->height())),
-                               QStringLiteral("Cobrimento (mm): ") + motivo, text1_);
+                               QStringLiteral("Cobrimento (cm): ") + motivo, text1_);
         },
         this);
     filtro->instala(text1_);
@@ -60,9 +64,10 @@ DEstimateDialog::DEstimateDialog(Form5Model& form, std::function<void()> calcula
     grade->addWidget(combo1_, 0, 1, 1, 2);
     grade->addWidget(rotulo("Barras longitudinais", combo2_), 1, 0);
     grade->addWidget(combo2_, 1, 1, 1, 2);
-    grade->addWidget(rotulo("Cobrimento (mm)", text1_), 2, 0);
+    // In the window's units: the main window's d' and cover are in cm.
+    grade->addWidget(rotulo("Cobrimento (cm)", text1_), 2, 0);
     grade->addWidget(text1_, 2, 1);
-    grade->addWidget(new QLabel(QStringLiteral("d' (mm)"), this), 3, 0);
+    grade->addWidget(new QLabel(QStringLiteral("d' (cm)"), this), 3, 0);
     grade->addWidget(text2_, 3, 1);
     grade->setColumnStretch(2, 1);
 
@@ -92,6 +97,8 @@ DEstimateDialog::DEstimateDialog(Form5Model& form, std::function<void()> calcula
     raiz->addLayout(botoes);
     setMinimumWidth(380);
     carrega();
+    // The wheel over a list does not change it unless the list has the focus.
+    (new WheelGuard(this))->protege(this);
 }
 
 void DEstimateDialog::carrega()
@@ -100,8 +107,28 @@ void DEstimateDialog::carrega()
         combo1_->findText(QString::fromStdString(form_.Combo1.Text), Qt::MatchExactly | Qt::MatchCaseSensitive));
     combo2_->setCurrentIndex(
         combo2_->findText(QString::fromStdString(form_.Combo2.Text), Qt::MatchExactly | Qt::MatchCaseSensitive));
-    text1_->setText(QString::fromStdString(form_.Text1.Text));
-    text2_->setText(QString::fromStdString(form_.Text2.Text));
+    // The model keeps millimetres, as the estimate computes them.
+    const auto cm = [](const std::string& mm) {
+        return numeroCompleto(mm) ? QString::fromStdString(Str(Val(mm) / 10)) : QString::fromStdString(mm);
+    };
+    text1_->setText(cm(form_.Text1.Text));
+    text2_->setText(cm(form_.Text2.Text));
+}
+
+bool DEstimateDialog::coberturaLegivel()
+{
+    const QString motivo =
+        text1_->text().trimmed().isEmpty()
+            ? QStringLiteral("digite o cobrimento em cm.")
+            : motivoDaCaixa(Teclas::Decimal, QStringLiteral("o cobrimento é um número positivo de centímetros"),
+                            text1_->text());
+    text1_->setStyleSheet(motivo.isEmpty() ? QString() : QStringLiteral("QLineEdit { background: rgb(255, 214, 214); }"));
+    if (!motivo.isEmpty()) {
+        QApplication::beep();
+        QToolTip::showText(text1_->mapToGlobal(QPoint(0, text1_->height())), QStringLiteral("Cobrimento (cm): ") + motivo,
+                           text1_);
+    }
+    return motivo.isEmpty();
 }
 
 void DEstimateDialog::devolve()
@@ -110,11 +137,14 @@ void DEstimateDialog::devolve()
         form_.Combo1.Text = combo1_->currentText().toStdString();
     if (combo2_->currentIndex() >= 0)
         form_.Combo2.Text = combo2_->currentText().toStdString();
-    form_.Text1.Text = text1_->text().toStdString();
+    const std::string cm = text1_->text().trimmed().toStdString();
+    form_.Text1.Text = numeroCompleto(cm) ? Str(Val(cm) * 10) : cm;
 }
 
 void DEstimateDialog::calcula()
 {
+    if (!coberturaLegivel())
+        return;
     devolve();
     if (calcula_)
         calcula_();
@@ -123,6 +153,8 @@ void DEstimateDialog::calcula()
 
 void DEstimateDialog::calculaEAceita()
 {
+    if (!coberturaLegivel())
+        return;
     devolve();
     if (calcula_)
         calcula_();

@@ -22,7 +22,9 @@ public:
                     QWidget* parent = nullptr);
 
     void carrega();  // model -> boxes
-    void devolve();  // boxes -> model
+    void devolve();
+    // The cover as typed can be read; otherwise the box says why and nothing is estimated.
+    bool coberturaLegivel();  // boxes -> model
 
 private:
     void calcula();

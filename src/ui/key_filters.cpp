@@ -15,23 +15,24 @@ namespace {
 bool decimal(Teclas regra) { return regra == Teclas::Decimal || regra == Teclas::DecimalComSinal; }
 } // namespace
 
-bool teclaAceita(Teclas regra, QChar c)
+bool digitavel(Teclas regra) { return regra != Teclas::Bitola && regra != Teclas::Nenhuma; }
+
+QString numeroColado(const QString& texto)
 {
-    const bool digito = c >= QLatin1Char('0') && c <= QLatin1Char('9');
-    const bool apaga = c == QLatin1Char('\b');
-    const bool ponto = c == QLatin1Char('.') || c == QLatin1Char(',');
-    switch (regra) {
-    case Teclas::Inteiro:
-        return digito || apaga;
-    case Teclas::Decimal:
-        return digito || apaga || ponto;
-    case Teclas::DecimalComSinal:
-        return digito || apaga || ponto || c == QLatin1Char('-');
-    case Teclas::Bitola:
-    case Teclas::Nenhuma:
-        return false;
+    QString t = texto.trimmed();
+    const int virgula = t.lastIndexOf(QLatin1Char(','));
+    if (virgula < 0 || t.count(QLatin1Char(',')) > 1)
+        return t;
+    // Thousands points stand in groups of three digits before the comma.
+    QString inteira = t.left(virgula);
+    if (inteira.contains(QLatin1Char('.'))) {
+        const QStringList grupos = inteira.split(QLatin1Char('.'));
+        for (int i = 1; i < grupos.size(); ++i)
+            if (grupos[i].size() != 3)
+                return t;
+        inteira.remove(QLatin1Char('.'));
     }
-    return false;
+    return inteira + QLatin1Char('.') + t.mid(virgula + 1);
 }
 
 QString oQueAceita(Teclas regra)
@@ -51,20 +52,14 @@ QString oQueAceita(Teclas regra)
     return QStringLiteral("não se digita");
 }
 
-Insercao insercao(Teclas regra, const QString& texto, int inicio, int fim, QString inserido, bool colado)
+Insercao insercao(Teclas regra, QString inserido, bool colado)
 {
+    if (!digitavel(regra))
+        return {{}, oQueAceita(regra)};
     if (colado)
-        inserido = inserido.trimmed();
-    if (decimal(regra))
+        inserido = decimal(regra) ? numeroColado(inserido) : inserido.trimmed();
+    else if (decimal(regra))
         inserido.replace(QLatin1Char(','), QLatin1Char('.'));
-    for (const QChar c : inserido)
-        if (!teclaAceita(regra, c))
-            return {{}, oQueAceita(regra)};
-    const QString resultado = texto.left(inicio) + inserido + texto.mid(fim);
-    if (resultado.count(QLatin1Char('.')) > 1)
-        return {{}, QStringLiteral("um só ponto decimal")};
-    if (resultado.lastIndexOf(QLatin1Char('-')) > 0)
-        return {{}, QStringLiteral("o sinal de menos só no início")};
     return {inserido, {}};
 }
 
@@ -102,9 +97,7 @@ bool KeyFilter::insere(QObject* watched, const QString& inserido, bool colado)
         return inserido.isEmpty() ? false : recusa(watched, oQueAceita(regra_));
     if (edit->isReadOnly())
         return recusa(watched, oQueAceita(regra_));
-    const int inicio = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
-    const int fim = edit->hasSelectedText() ? edit->selectionEnd() : inicio;
-    const Insercao r = insercao(regra_, edit->text(), inicio, fim, inserido, colado);
+    const Insercao r = insercao(regra_, inserido, colado);
     if (!r.motivo.isEmpty())
         return recusa(watched, r.motivo);
     if (!colado && r.texto == inserido)
@@ -128,7 +121,7 @@ bool KeyFilter::eventFilter(QObject* watched, QEvent* event)
         if (k->matches(QKeySequence::Paste))
             return insere(watched, QApplication::clipboard()->text(), true);
         if (k->key() == Qt::Key_Backspace)
-            return teclaAceita(regra_, QLatin1Char('\b')) ? false : recusa(watched, oQueAceita(regra_));
+            return digitavel(regra_) ? false : recusa(watched, oQueAceita(regra_));
         const QString texto = k->text();
         // Keys that type nothing (arrows, Home, Delete, Tab, Enter, shortcuts with
         // Ctrl) move or act; only typed characters are filtered.

@@ -1,9 +1,12 @@
 #pragma once
 // Keystroke filters of the window's boxes and lists. Numbers are typed as in
-// Brazil: the comma is taken as the decimal point and written as the point the
-// program reads (files and the command line keep the point). A key a box refuses
-// is discarded before the box sees it, beeps, and is told with what the box
-// accepts; a paste goes through the same rule as typing.
+// Brazil: in a box that takes decimals the comma is taken as the decimal point and
+// written as the point the program reads (files and the command line keep the
+// point), and a pasted "1.350,0" is 1350.0. Every other printable key goes into an
+// input box as typed: a text the box cannot read is refused whole by the window
+// (ui/box_check.h), never trimmed of the key it did not expect. The result boxes,
+// the bar list and the lists take no typed key: it beeps and the status bar says
+// why.
 
 #include <QObject>
 #include <QString>
@@ -22,21 +25,25 @@ enum class Teclas {
     Nenhuma,         // result boxes and lists: nothing is typed
 };
 
-// Whether a typed character belongs to a group of boxes. Backspace is the
-// character '\b'; the comma belongs wherever the point does.
-bool teclaAceita(Teclas regra, QChar c);
+// Whether a group of boxes is typed into at all.
+bool digitavel(Teclas regra);
+
+// A number pasted from a spreadsheet or a text, as the program reads it: trimmed;
+// with a decimal comma, the points before it are thousands ("1.350,0" is
+// "1350.0"). A text that is no such number comes back trimmed, as it was.
+QString numeroColado(const QString& texto);
 
 // What a group of boxes accepts, as the status bar says it ("só algarismos").
 QString oQueAceita(Teclas regra);
 
-// Typing or pasting `inserido` over the characters [inicio, fim) of `texto`: the
-// text to insert (the comma turned into a point, a paste trimmed), or, when the box
-// refuses it, why (`motivo` not empty).
+// Typing or pasting `inserido` into a box of `regra`: the text to insert (in a box
+// of decimals the comma turned into a point, a paste read by numeroColado), or,
+// where the box takes no typing, why (`motivo` not empty).
 struct Insercao {
     QString texto;
     QString motivo;
 };
-Insercao insercao(Teclas regra, const QString& texto, int inicio, int fim, QString inserido, bool colado);
+Insercao insercao(Teclas regra, QString inserido, bool colado);
 
 class KeyFilter : public QObject {
     Q_OBJECT

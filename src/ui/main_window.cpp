@@ -8,11 +8,17 @@
 #include "ui/about_dialog.h"
 #include "ui/d_estimate_dialog.h"
 #include "ui/help_dialog.h"
+#include "ui/box_check.h"
+#include "ui/input_edit.h"
+#include "ui/input_tips.h"
 #include "ui/interaction_dialog.h"
 #include "ui/other_values_dialog.h"
 #include "ui/qt_dialogs.h"
 #include "ui/section_canvas.h"
 #include "ui/solutions_dialog.h"
+#include "ui/verdict_text.h"
+#include "ui/wheel_guard.h"
+#include "window/solution_details.h"
 #include "window/units.h"
 #include "window/window_input.h"
 
@@ -107,87 +113,23 @@ QGroupBox* quadro(const char* titulo, const char* nome)
     return q;
 }
 
+// With d' found from the cover, the d' box and its estimate are out of use; a
+// project or the defaults loaded set the tick, and the box follows it.
+void dLinhaSegueAMarca(Form1Model& f)
+{
+    const bool automatico = f.Check3.ticked();
+    f.Text3.Enabled = !automatico;
+    f.Command17.Enabled = !automatico;
+}
+
 QString semAtalho(const std::string& s) { return qs(s).remove(QLatin1Char('&')); }
 
 QString html(const std::string& s) { return qs(s).toHtmlEscaped(); }
 
-// The menu "&Arquivo" and the stirrup option "Definir m&anualmente" share Alt+A.
-// A shared access key only moves the focus between its owners; the menu is the one
-// a user reaches for, so an ambiguous key that names a menu opens it.
-class PrioridadeDosMenus : public QObject {
-public:
-    PrioridadeDosMenus(QMenuBar* barra, QObject* parent) : QObject(parent), barra_(barra) {}
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::Shortcut) {
-            auto* se = static_cast<QShortcutEvent*>(event);
-            if (se->isAmbiguous())
-                for (QAction* menu : barra_->actions())
-                    if (QKeySequence::mnemonic(menu->text()) == se->key()) {
-                        barra_->setActiveAction(menu);
-                        return true;
-                    }
-        }
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    QMenuBar* barra_;
-};
-
-// One edit of the input, by the names of the inputs it changed: what they held
-// before and after. Typing into one box is one edit until another input changes.
-class EdicaoDaEntrada : public QUndoCommand {
-public:
-    struct Mudanca {
-        std::string nome, antes, depois;
-    };
-    EdicaoDaEntrada(std::vector<Mudanca> mudancas, bool digitacao, const QString& texto,
-                    std::function<void(const std::vector<std::pair<std::string, std::string>>&)> poe)
-        : QUndoCommand(texto), mudancas_(std::move(mudancas)), digitacao_(digitacao), poe_(std::move(poe))
-    {
-    }
-
-    int id() const override { return digitacao_ ? 1 : -1; }
-    bool mergeWith(const QUndoCommand* outro) override
-    {
-        const auto* o = static_cast<const EdicaoDaEntrada*>(outro);
-        if (mudancas_.size() != 1 || o->mudancas_.size() != 1 || mudancas_[0].nome != o->mudancas_[0].nome)
-            return false;
-        mudancas_[0].depois = o->mudancas_[0].depois;
-        return true;
-    }
-    void undo() override { aplica(false); }
-    void redo() override
-    {
-        // The edit is already in the window when it is pushed.
-        if (primeira_) {
-            primeira_ = false;
-            return;
-        }
-        aplica(true);
-    }
-
-private:
-    void aplica(bool depois)
-    {
-        std::vector<std::pair<std::string, std::string>> valores;
-        for (const auto& m : mudancas_)
-            valores.emplace_back(m.nome, depois ? m.depois : m.antes);
-        poe_(valores);
-    }
-
-    std::vector<Mudanca> mudancas_;
-    bool digitacao_;
-    bool primeira_ = true;
-    std::function<void(const std::vector<std::pair<std::string, std::string>>&)> poe_;
-};
-
 const char* kOrganizacao = "Pilarix";
 const char* kAplicacao = "Pilarix Normal";
 const char* kChaveRecentes = "arquivosRecentes";
+const char* kChaveGeometria = "geometriaDaJanela";
 constexpr int kMaximoRecentes = 8;
 
 } // namespace
@@ -207,6 +149,7 @@ MainWindow::MainWindow(DialogPort* dialogs, QWidget* parent) : QMainWindow(paren
     filtroComSinal_ = new KeyFilter(Teclas::DecimalComSinal, recusa, this);
     filtroBitola_ = new KeyFilter(Teclas::Bitola, recusa, this);
     filtroNenhum_ = new KeyFilter(Teclas::Nenhuma, recusa, this);
+    caixasConferidas_ = new BoxCheck([this](const QString& motivo) { mostraNaBarra(motivo); }, this);
 
     pilhaDesfazer_ = new QUndoStack(this);
 
@@ -254,7 +197,12 @@ MainWindow::MainWindow(DialogPort* dialogs, QWidget* parent) : QMainWindow(paren
     colunas->setSpacing(8);
     colunas->addWidget(rolagemEntradas_);
     colunas->addWidget(centroDesenho, 3);
-    colunas->addWidget(rolagemResultados_, 1);
+    auto* direita = new QVBoxLayout;
+    direita->setSpacing(4);
+    direita->addWidget(rolagemResultados_, 1);
+    direita->addWidget(veredito_);
+    veredito_->setMaximumWidth(380);
+    colunas->addLayout(direita, 1);
     auto* raiz = new QVBoxLayout(centro);
     raiz->setContentsMargins(8, 6, 8, 4);
     raiz->addLayout(colunas, 1);
@@ -270,6 +218,9 @@ MainWindow::MainWindow(DialogPort* dialogs, QWidget* parent) : QMainWindow(paren
 
     montaOrdemDeTab();
     montaDicas();
+
+    // The wheel over a list scrolls the panel unless the list has the focus.
+    (new WheelGuard(this))->protege(centro);
 
     auto* prioridade = new PrioridadeDosMenus(menuBar(), this);
     for (auto* b : centro->findChildren<QAbstractButton*>())
@@ -289,6 +240,9 @@ MainWindow::MainWindow(DialogPort* dialogs, QWidget* parent) : QMainWindow(paren
         const QSize desejado = sizeHint().expandedTo(QSize(1200, 700));
         resize(std::min(desejado.width(), livre.width() - 16), std::min(desejado.height(), livre.height() - 40));
     }
+    // Where the engineer left it last time, if that still fits a screen.
+    QSettings s(QString::fromUtf8(kOrganizacao), QString::fromUtf8(kAplicacao));
+    restoreGeometry(s.value(QString::fromUtf8(kChaveGeometria)).toByteArray());
 }
 
 MainWindow::~MainWindow() = default;
@@ -309,6 +263,8 @@ QLineEdit* MainWindow::caixa(TextBox& m, const QString& nome, Teclas regra, int 
     if (regra == Teclas::Bitola)
         e->setReadOnly(true);
     f->instala(e);
+    if (digitavel(regra))
+        caixasConferidas_->vigia(e, regra, rotuloCaixa);
     caixas_.emplace_back(&m, e);
     rotulos_[e] = rotuloCaixa;
     if (!e->isReadOnly()) {
@@ -431,7 +387,6 @@ void MainWindow::montaMenus()
     imprimir->setShortcut(QKeySequence::Print);
     arquivo->addAction(imprimir);
     arquivo->addSeparator();
-    arquivo->addAction(acao(QStringLiteral("S&obre"), QStringLiteral("mnuItemSobre"), [this] { abreSobre(); }));
     arquivo->addAction(acao(QStringLiteral("Sai&r"), QStringLiteral("mnuItemSair"), [this] { close(); }));
     montaRecentes();
 
@@ -461,6 +416,8 @@ void MainWindow::montaMenus()
         acao(QStringLiteral("&Ajuda do Pilarix"), QStringLiteral("mnuItemAjuda"), [this] { abreAjuda(); });
     itemAjuda->setShortcut(QKeySequence::HelpContents);
     ajuda->addAction(itemAjuda);
+    ajuda->addSeparator();
+    ajuda->addAction(acao(QStringLiteral("S&obre o Pilarix"), QStringLiteral("mnuItemSobre"), [this] { abreSobre(); }));
 }
 
 QWidget* MainWindow::montaEntradas()
@@ -773,8 +730,14 @@ QWidget* MainWindow::montaResultados()
     avisoVerificacao_->setWordWrap(true);
     avisoVerificacao_->setFixedHeight(2 * avisoVerificacao_->fontMetrics().lineSpacing() + 2);
     gv->addWidget(avisoVerificacao_, 1, 0, 1, 3);
+    // With several load cases the boxes Nd and Md are the first case's, the results
+    // the governing case's: the window says which.
+    casoDeterminante_ = new QLabel;
+    casoDeterminante_->setObjectName(QStringLiteral("lblCasoDeterminante"));
+    casoDeterminante_->setWordWrap(true);
+    casoDeterminante_->setVisible(false);
+    gv->addWidget(casoDeterminante_, 2, 0, 1, 3);
     gv->setColumnStretch(2, 1);
-    v->addWidget(ver);
 
     auto* err = quadro("Erros", "Frame14");
     auto* gr = new QHBoxLayout(err);
@@ -784,12 +747,18 @@ QWidget* MainWindow::montaResultados()
     negrito.setBold(true);
     t30->setFont(negrito);
     gr->addWidget(t30);
-    v->addWidget(err);
     v->addStretch();
+    // The verdict stays in sight under the results, which scroll on a short screen.
+    veredito_ = new QWidget;
+    auto* vv = new QVBoxLayout(veredito_);
+    vv->setContentsMargins(0, 0, 0, 0);
+    vv->addWidget(ver);
+    vv->addWidget(err);
     // The column of results is the tallest: its frames hold their boxes close.
-    for (auto* q : coluna->findChildren<QGroupBox*>())
-        if (q->layout())
-            q->layout()->setContentsMargins(8, 4, 8, 4);
+    for (auto* w : {coluna, veredito_})
+        for (auto* q : w->findChildren<QGroupBox*>())
+            if (q->layout())
+                q->layout()->setContentsMargins(8, 4, 8, 4);
     coluna->setMinimumWidth(250);
     return coluna;
 }
@@ -819,7 +788,12 @@ QWidget* MainWindow::montaBotoes()
     });
     anterior->setFixedWidth(32);
     seguinte->setFixedWidth(32);
+    // Which solution of the list is in the window: "3 de 40".
+    posicaoNaLista_ = new QLabel;
+    posicaoNaLista_->setObjectName(QStringLiteral("lblSolucaoAtual"));
+    posicaoNaLista_->setVisible(false);
     h->addWidget(anterior);
+    h->addWidget(posicaoNaLista_);
     h->addWidget(seguinte);
     h->addWidget(botao(f.Command11, QStringLiteral("Command11"), [this] {
         executa([this] { program_->Command11_Click(); });
@@ -856,76 +830,7 @@ void MainWindow::montaOrdemDeTab()
     }
 }
 
-void MainWindow::montaDicas()
-{
-    // Every input says what it is, its unit and its limits.
-    const std::pair<const char*, const char*> dicas[] = {
-        {"Text1", "Base b da seção: a largura das faces com as barras de \"Base\". Em cm, inteiro; "
-                  "o mínimo é 12 cm (um valor menor é corrigido para 12)."},
-        {"Text2", "Altura h da seção, na direção do momento Md. Em cm, inteiro; o mínimo é 12 cm."},
-        {"Text23", "Comprimento do pilar, em cm: dá o peso do aço."},
-        {"Text31", "Passo dos botões - e + da base, em cm (vazio: os botões não mudam a base)."},
-        {"Text32", "Passo dos botões - e + da altura, em cm (vazio: os botões não mudam a altura)."},
-        {"Text4", "Número de barras em cada face de largura b, cantos incluídos (2 no mínimo). Mais barras do "
-                  "que cabem, a 5 cm entre eixos, são corrigidas para o máximo."},
-        {"Text5", "Número de barras em cada face de altura h, cantos incluídos (2 no mínimo). Mais barras do "
-                  "que cabem, a 5 cm entre eixos, são corrigidas para o máximo."},
-        {"Text3", "d': distância da face ao centro das barras, em cm. Vazio ou pequeno demais, o cálculo "
-                  "pergunta pelo cobrimento e o corrige."},
-        {"Check3", "Marcado: d' é calculado a partir do cobrimento (começa em 3 cm e segue as correções do "
-                   "cobrimento); a caixa d' mostra o valor encontrado."},
-        {"Command17", "Estima d' a partir do estribo, da barra e do cobrimento."},
-        {"Text16", "Nd: força normal de cálculo, compressão positiva (tração com o sinal de menos), na "
-                   "unidade ao lado."},
-        {"Combo4", "Unidade de Nd."},
-        {"Text17", "Md: momento fletor de cálculo, na unidade ao lado (sem sinal)."},
-        {"Combo5", "Unidade de Md."},
-        {"Text18", "Fck: resistência característica do concreto à compressão, na unidade ao lado. A norma "
-                   "abrange de 20 a 50 MPa; fora disso o cálculo avisa."},
-        {"Combo6", "Unidade de Fck."},
-        {"Text20", "Es: módulo de elasticidade do aço, na unidade ao lado (usual: 21000 KN/cm2); maior que zero."},
-        {"Combo7", "Unidade de Es."},
-        {"Text21", "γc: coeficiente de minoração da resistência do concreto (usual: 1.4); maior que zero."},
-        {"Text22", "γs: coeficiente de minoração da resistência do aço (usual: 1.15); maior que zero."},
-        {"Combo1", "Categoria do aço das barras longitudinais."},
-        {"Option1", "Tolerância de execução Δc = 10 mm, somada ao cobrimento mínimo da classe."},
-        {"Option2", "Tolerância de execução Δc = 5 mm (controle rígido), somada ao cobrimento mínimo da classe."},
-        {"Combo2", "Classe de agressividade ambiental, de I a IV: dá o cobrimento nominal."},
-        {"Check1", "Marcado: as correções do cobrimento e de d' são feitas sem perguntar."},
-        {"Check2", "Marcado: o cálculo escolhe a menor bitola que atende à área de aço. Desmarcado: um clique "
-                   "numa bitola a fixa para o cálculo."},
-        {"Option3", "Estribo pré-definido: o diâmetro da lista ao lado."},
-        {"Combo3", "Diâmetro do estribo pré-definido."},
-        {"Option5", "O estribo de menor consumo de aço por metro."},
-        {"Option6", "O cálculo mostra as opções de estribo e pergunta qual usar."},
-        {"Check5", "Marcado: os estribos são do mesmo aço das barras longitudinais."},
-        {"Option7(1)", "Gancho em ângulo reto (90°)."},
-        {"Option7(0)", "Gancho a 45° ou semicircular."},
-        {"Text6", "Escala do desenho exportado em SVG e PNG, em pixels por centímetro da seção; maior que zero."},
-        {"Command1", "Calcula o pilar com os valores da janela (Enter numa caixa faz o mesmo)."},
-        {"Command8", "Procura o arranjo de barras e estribo mais leve que passa em todas as verificações."},
-        {"Command9", "Próxima solução"},
-        {"Command10", "Solução anterior"},
-        {"Command11", "Lista as soluções da última busca, da mais leve à mais pesada."},
-        {"Command7", "Põe na janela os valores de \"Padrão.txt\" e limpa os resultados (Ctrl+Z desfaz)."},
-        {"Command6", "Fecha o programa; antes, pergunta por alterações não salvas."},
-        {"Command13", "Diminui a base pelo passo ao lado e calcula."},
-        {"Command16", "Aumenta a base pelo passo ao lado e calcula."},
-        {"Command14", "Diminui a altura pelo passo ao lado e calcula."},
-        {"Command15", "Aumenta a altura pelo passo ao lado e calcula."},
-        {"Command3", "Uma barra a menos em cada face da base (2 no mínimo) e calcula."},
-        {"Command2", "Uma barra a mais em cada face da base e calcula."},
-        {"Command5", "Uma barra a menos em cada face da altura (2 no mínimo) e calcula."},
-        {"Command4", "Uma barra a mais em cada face da altura e calcula."},
-    };
-    for (const auto& [nome, dica] : dicas)
-        if (auto* w = centralWidget()->findChild<QWidget*>(QString::fromUtf8(nome)))
-            w->setToolTip(QString::fromUtf8(dica));
-    for (auto* e : bitolas_)
-        e->setToolTip(QStringLiteral("%1 mm. Em azul, a bitola do último cálculo. Com \"Automático\" desmarcado, "
-                                     "um clique fixa esta bitola para o cálculo.")
-                          .arg(e->text()));
-}
+void MainWindow::montaDicas() { aplicaDicas(centralWidget(), bitolas_); }
 
 // ---- model <-> widgets ----
 
@@ -1019,6 +924,8 @@ void MainWindow::atualiza()
             desenho_->clearSection();
     }
     desenho_->setStale(desatualizado_);
+    posicaoNaLista_->setVisible(f.Command9.Visible && program_->NSolucoes > 0);
+    posicaoNaLista_->setText(QStringLiteral("%1 de %2").arg(program_->SolucaoAtual).arg(program_->Form11.RowsShown));
     desenho_->setPlaceholderText(f.Image1Visible ? QStringLiteral("Pilarix Normal") : QString());
     mostraVerificacao();
     avisoDesatualizado_->setVisible(desatualizado_);
@@ -1051,6 +958,8 @@ void MainWindow::executa(const std::function<void()>& handler, Edicao edicao, co
         // keeps it, as the list only changes what it puts in.
         if (buscando_ && p.NSolucoes > 0)
             fotoBusca_ = fotoDaEntrada(p, Alcance::Busca);
+        // What the status bar said belongs to the input before this calculation.
+        statusBar()->clearMessage();
         if (!p.CorrecoesDaLeitura.empty()) {
             QStringList correcoes;
             for (const auto& c : p.CorrecoesDaLeitura)
@@ -1069,7 +978,10 @@ void MainWindow::executa(const std::function<void()>& handler, Edicao edicao, co
 
 void MainWindow::inicia()
 {
-    executa([this] { program_->Form_Load(); });
+    executa([this] {
+        program_->Form_Load();
+        dLinhaSegueAMarca(program_->Form1);
+    });
     // The defaults just loaded are where the user starts: nothing to save, nothing to undo.
     fotoSalva_ = fotoDaEntrada(*program_, Alcance::Projeto);
     pilhaDesfazer_->clear();
@@ -1087,12 +999,8 @@ void MainWindow::arquivo(void (Program::*handler)())
 
 void MainWindow::marcouDLinhaAutomatico()
 {
-    // With d' found from the cover, the d' box and its estimate are out of use.
     copiaParaModelo();
-    auto& f = program_->Form1;
-    const bool automatico = f.Check3.ticked();
-    f.Text3.Enabled = !automatico;
-    f.Command17.Enabled = !automatico;
+    dLinhaSegueAMarca(program_->Form1);
     atualiza();
 }
 
@@ -1101,7 +1009,14 @@ void MainWindow::marcouDLinhaAutomatico()
 bool MainWindow::entradaConfere()
 {
     copiaParaModelo();
-    const auto problema = conferenciaDaEntrada(*program_);
+    // A box whose text the program cannot read as the engineer typed it comes first.
+    std::optional<std::string> problema;
+    if (const auto recusa = caixasConferidas_->primeiraRecusada()) {
+        problema = recusa->mensagem.toStdString();
+        recusa->caixa->setFocus();
+    } else {
+        problema = conferenciaDaEntrada(*program_);
+    }
     if (!problema)
         return true;
     auto& form = program_->Form2;
@@ -1122,7 +1037,31 @@ bool MainWindow::calculaConferido(const std::function<void()>& handler, Edicao e
 
 void MainWindow::calcula()
 {
-    calculaConferido([this] { program_->Command1_Click(); });
+    calculaConferido([this] {
+        // The stirrup chosen in "Escolha dos estribos" for an earlier column is not
+        // carried into this one: the same project gives the same stirrup whatever
+        // was calculated before it in this window.
+        program_->memoria.stirrup = {};
+        program_->Command1_Click();
+    });
+    dizEstriboMantido();
+}
+
+void MainWindow::dizEstriboMantido()
+{
+    // A repeated pass (after the cover was corrected) asks nothing: it keeps the
+    // stirrup of the first pass, at the spacing it computes itself. The window says
+    // so, as the method's own memory decided it.
+    const auto& p = *program_;
+    if (!p.Resultado || p.Resultado->passes < 2 || !p.Form1.Option6.Value)
+        return;
+    for (const auto& r : p.MensagensDoCalculo)
+        if (r.kind == DialogRecord::Kind::Stirrup) {
+            mostraNaBarra(QStringLiteral("Estribo %1: escolhido na primeira passada e mantido, sem nova pergunta, "
+                                         "na passada repetida após a correção do cobrimento.")
+                              .arg(qs(p.Resultado->stirrup.text)));
+            return;
+        }
 }
 
 void MainWindow::valoresPadrao()
@@ -1134,6 +1073,7 @@ void MainWindow::valoresPadrao()
             auto& p = *program_;
             p.ErroArquivo.clear();
             p.Command7_Click();
+            dLinhaSegueAMarca(p.Form1);
             if (p.ErroArquivo.empty())
                 p.LimpaResultados();
         },
@@ -1309,6 +1249,7 @@ void MainWindow::novo()
         auto& p = *program_;
         p.ErroArquivo.clear();
         p.Command7_Click();
+        dLinhaSegueAMarca(p.Form1);
         if (p.ErroArquivo.empty())
             p.LimpaResultados();
     });
@@ -1337,6 +1278,7 @@ void MainWindow::abreArquivo(const QString& nome)
         if (!nome.isEmpty()) {
             p.NomeArquivo = nome.toStdString();
             p.Carrega33();
+            dLinhaSegueAMarca(p.Form1);
             carregou = p.ErroArquivo.empty();
         }
     });
@@ -1440,6 +1382,8 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
+    QSettings s(QString::fromUtf8(kOrganizacao), QString::fromUtf8(kAplicacao));
+    s.setValue(QString::fromUtf8(kChaveGeometria), saveGeometry());
     event->accept();
 }
 
@@ -1501,6 +1445,19 @@ void MainWindow::abreEstimativaDLinha()
             program_->Form5, [this] { executa([this] { program_->Form5Calcula(); }); },
             [this] { executa([this] { program_->Form5Aceita(); }, Edicao::Usuario, QStringLiteral("estimativa de d'")); },
             this);
+    // It starts from the bar, the stirrup and the cover of the last calculation.
+    if (const auto& r = program_->Resultado; r && r->detailed && r->bar) {
+        auto& f5 = program_->Form5;
+        for (int i = 1; i <= engine::kBarCount; ++i) {
+            const auto& b = engine::bar(i);
+            if (i <= engine::kLastStirrupBar && std::abs(b.diameter - r->stirrup.diameter) < 1e-9)
+                f5.Combo1.Text = std::string(b.labelComma);
+            if (i == r->bar->index)
+                f5.Combo2.Text = std::string(b.labelComma);
+        }
+        f5.Text1.Text = Str(r->cover.effective * 10);
+        program_->Form5Calcula();
+    }
     estimativa_->carrega();
     estimativa_->exec();
 }
@@ -1510,7 +1467,7 @@ void MainWindow::abreSolucoes()
     if (!solucoes_)
         solucoes_ = new SolutionsDialog(
             program_->Form11, [this] { executa([this] { program_->Form11Escolhe(); }); }, this);
-    solucoes_->atualiza();
+    solucoes_->poeDetalhes(detalhaSolucoes(*program_));
     solucoes_->exec();
 }
 
@@ -1530,8 +1487,19 @@ void MainWindow::exportaDesenho()
     const std::string nome = dialogos_->askDrawingFileName(nomeProposto() + ".dxf");
     if (nome.empty())
         return;
+    // A design that does not hold says so in the file itself.
+    std::string motivo;
+    if (p.Form1.Text30.Text != "Ok")
+        motivo = "o cálculo deu erro";
+    else if (desatualizado_)
+        motivo = "a entrada mudou depois do cálculo";
+    const engine::SectionGeometry desenho =
+        motivo.empty() ? *p.Desenho : render::stampedUnverified(*p.Desenho, motivo);
     std::string erro;
-    if (!render::exportDrawing(*p.Desenho, nome, Val(p.Form1.Text6.Text), erro))
+    if (render::exportDrawing(desenho, nome, Val(p.Form1.Text6.Text), erro))
+        mostraNaBarra(QStringLiteral("Desenho %1gravado em %2")
+                          .arg(motivo.empty() ? QString() : QStringLiteral("(NÃO VERIFICADO) "), qs(nome)));
+    else
         dialogos_->notice(erro);
 }
 
@@ -1577,72 +1545,67 @@ void MainWindow::abreCasos()
                 atualiza();
                 registraEdicao(QStringLiteral("casos de carga"), false);
                 reavalia();
+                casos_->carrega(desatualizado_);
             },
             this);
-    casos_->carrega();
+    casos_->carrega(desatualizado_);
     casos_->show();
     casos_->raise();
     casos_->activateWindow();
 }
 
-namespace {
-// The check of the detailed section in the units the user chose for Nd and Md.
-DiagramData dadosDoDiagrama(const Program& p)
-{
-    DiagramData d;
-    const auto& f = p.Form1;
-    d.forceUnit = qs(f.Combo4.Text);
-    d.momentUnit = qs(f.Combo5.Text);
-    const auto& v = *p.Verificacao;
-    const double fn = fatorDaUnidade(f.Combo4.Text).value_or(1);
-    const double fm = fatorDaUnidade(f.Combo5.Text).value_or(1);
-    for (const auto& [n, m] : v.curve)
-        d.curve.emplace_back(m / fm, n / fn);
-    if (p.ResultadosDosCasos.empty()) {
-        d.points.push_back({v.nSd / fn, v.mSd / fm, QStringLiteral("Sd"), v.utilisation, true});
-    } else {
-        // Every load case on the governing case's section, γn as the design took it.
-        const double g = p.Resultado ? p.Resultado->design.gammaN : 1;
-        for (const auto& c : p.ResultadosDosCasos)
-            d.points.push_back({c.Nd * g / fn, c.Md * g / fm, qs(c.nome), c.utilizacao, c.governa});
-    }
-    if (v.mRd)
-        d.mRd = *v.mRd / fm;
-    d.nRdMax = v.nRdMax / fn;
-    d.nRdMin = v.nRdMin / fn;
-    return d;
-}
-} // namespace
 
 void MainWindow::mostraVerificacao()
 {
-    const auto& v = program_->Verificacao;
+    const auto& p = *program_;
+    const auto& v = p.Verificacao;
+    // A failed design: its utilisation approves nothing, whatever its figure.
+    const bool erro = p.Form1.Text30.Text == "erro";
     QPalette pal = utilizacao_->palette();
     QPalette palAviso = avisoVerificacao_->palette();
+    QColor corAviso(205, 30, 30);
     if (!v) {
         utilizacao_->clear();
         avisoVerificacao_->clear();
     } else {
         utilizacao_->setText(utilisationText(v->utilisation));
-        pal.setColor(QPalette::Text, desatualizado_ ? kLetraDesatualizada : utilisationColour(v->utilisation));
         const bool naoResiste = !(v->utilisation <= 1);
-        avisoVerificacao_->setText(naoResiste ? QStringLiteral("A seção detalhada NÃO resiste aos esforços "
-                                                               "(utilização %1).")
-                                                    .arg(utilisationText(v->utilisation))
-                                              : QString());
+        const QColor cor = erro && !naoResiste ? QColor(128, 128, 128) : utilisationColour(v->utilisation);
+        pal.setColor(QPalette::Text, desatualizado_ ? kLetraDesatualizada : cor);
+        if (naoResiste)
+            avisoVerificacao_->setText(QStringLiteral("A seção detalhada NÃO resiste aos esforços (utilização %1).")
+                                           .arg(utilisationText(v->utilisation)));
+        else if (erro) {
+            avisoVerificacao_->setText(QStringLiteral("Com \"erro\" a utilização não aprova o pilar: veja as "
+                                                      "mensagens."));
+            corAviso = QColor(110, 110, 110);
+        } else
+            avisoVerificacao_->clear();
     }
+    utilizacao_->setToolTip(erro && v ? QStringLiteral("O cálculo deu erro: a utilização vale só como informação; "
+                                                      "o pilar não está verificado.")
+                                      : QStringLiteral("Quanto da resistência da seção detalhada os esforços de "
+                                                       "cálculo usam, por compatibilidade de deformações (100 % no "
+                                                       "limite)"));
     pal.setColor(QPalette::Base, desatualizado_ ? esmaecida(Qt::white) : QColor(Qt::white));
     utilizacao_->setPalette(pal);
     QFont fonte = avisoVerificacao_->font();
     fonte.setBold(true);
     avisoVerificacao_->setFont(fonte);
-    palAviso.setColor(QPalette::WindowText, desatualizado_ ? kLetraDesatualizada : QColor(205, 30, 30));
+    palAviso.setColor(QPalette::WindowText, desatualizado_ ? kLetraDesatualizada : corAviso);
     avisoVerificacao_->setPalette(palAviso);
+    desenho_->setUnverified(erro && desenho_->hasSection()
+                                ? QStringLiteral("O cálculo deu erro: veja as mensagens.")
+                                : QString());
+    const QString caso = casoDeterminanteTexto(p);
+    casoDeterminante_->setText(caso);
+    casoDeterminante_->setVisible(!caso.isEmpty());
+    casoDeterminante_->setStyleSheet(desatualizado_ ? QStringLiteral("color: rgb(140, 140, 140);") : QString());
     if (casos_ && casos_->isVisible())
-        casos_->carrega();
+        casos_->carrega(desatualizado_);
     if (diagrama_ && diagrama_->isVisible()) {
         if (v)
-            diagrama_->mostra(dadosDoDiagrama(*program_));
+            diagrama_->mostra(dadosDoDiagrama(p));
         else
             diagrama_->limpa();
         diagrama_->setWindowTitle(desatualizado_ ? QStringLiteral("Diagrama de interação (desatualizado)")

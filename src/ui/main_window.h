@@ -42,6 +42,7 @@ class QUndoStack;
 
 namespace pilarix::ui {
 
+class BoxCheck;
 class QtDialogs;
 class SectionCanvas;
 class OtherValuesDialog;
@@ -145,6 +146,7 @@ private:
     bool entradaConfere();
     bool calculaConferido(const std::function<void()>& handler, Edicao edicao = Edicao::Programa);
     void valoresPadrao();
+    void dizEstriboMantido();
     void escolheBitola(int i);
     void recusouTecla(QWidget* caixa, const QString& motivo);
     void mostraNaBarra(const QString& texto);
@@ -184,6 +186,7 @@ private:
     KeyFilter* filtroComSinal_;
     KeyFilter* filtroBitola_;
     KeyFilter* filtroNenhum_;
+    BoxCheck* caixasConferidas_; // every numeric box's text, refused whole while the program cannot read it
 
     QWidget* colunaEntradas_ = nullptr;
     QWidget* colunaOpcoes_ = nullptr;
@@ -203,6 +206,9 @@ private:
     QPointer<HelpDialog> ajuda_;
     QLineEdit* utilizacao_ = nullptr;
     QLabel* avisoVerificacao_ = nullptr;
+    QLabel* casoDeterminante_ = nullptr;
+    QLabel* posicaoNaLista_ = nullptr;
+    QWidget* veredito_ = nullptr; // "Verificação" and "Erros", never scrolled away
     QLabel* avisoDesatualizado_ = nullptr;
     QMenu* menuRecentes_ = nullptr;
     QUndoStack* pilhaDesfazer_ = nullptr;

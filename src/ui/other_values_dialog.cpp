@@ -1,6 +1,7 @@
 #include "ui/other_values_dialog.h"
 
 #include "ui/key_filters.h"
+#include "ui/wheel_guard.h"
 #include "window/window_input.h"
 
 #include <QApplication>
@@ -97,6 +98,8 @@ OtherValuesDialog::OtherValuesDialog(Form8Model& form, std::function<void()> vol
     raiz->addLayout(botoes);
     setMinimumWidth(460);
     carrega();
+    // The wheel over a list does not change it unless the list has the focus.
+    (new WheelGuard(this))->protege(this);
 }
 
 void OtherValuesDialog::carrega()

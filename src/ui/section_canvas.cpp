@@ -1,5 +1,6 @@
 #include "ui/section_canvas.h"
 
+#include <QFontMetrics>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QResizeEvent>
@@ -81,6 +82,14 @@ void SectionCanvas::zoomAt(double factor, QPointF about)
     update();
 }
 
+void SectionCanvas::setUnverified(const QString& reason)
+{
+    if (unverified_ == reason)
+        return;
+    unverified_ = reason;
+    update();
+}
+
 void SectionCanvas::paintEvent(QPaintEvent*)
 {
     QPainter p(this);
@@ -91,8 +100,23 @@ void SectionCanvas::paintEvent(QPaintEvent*)
         return;
     }
     render::PaintStyle style;
-    style.stale = stale_;
+    style.stale = stale_ || !unverified_.isEmpty();
     render::paintSection(p, geometry_, view_, style);
+    if (!unverified_.isEmpty()) {
+        // Large enough to be read at a glance, over the drawing's middle.
+        QFont f = p.font();
+        f.setBold(true);
+        f.setPointSizeF(f.pointSizeF() * 1.8);
+        p.setFont(f);
+        p.setPen(QColor(205, 30, 30));
+        const QRect faixa = rect().adjusted(6, 0, -6, 0);
+        p.drawText(faixa, Qt::AlignCenter | Qt::TextWordWrap, QStringLiteral("NÃO VERIFICADO"));
+        f.setPointSizeF(f.pointSizeF() / 1.8);
+        f.setBold(false);
+        p.setFont(f);
+        p.drawText(faixa.adjusted(0, 2 * QFontMetrics(f).height() + 8, 0, 0), Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextWordWrap,
+                   unverified_);
+    }
     if (stale_) {
         p.setPen(QColor(150, 60, 60));
         p.drawText(rect().adjusted(6, 4, -6, -4), Qt::AlignTop | Qt::AlignLeft,

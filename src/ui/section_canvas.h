@@ -34,6 +34,11 @@ public:
     void setStale(bool stale);
     bool isStale() const { return stale_; }
 
+    // A section whose calculation failed ("erro") is drawn greyed under a large
+    // "NÃO VERIFICADO" and the reason, so that it never looks like a valid design.
+    void setUnverified(const QString& reason);
+    bool isUnverified() const { return !unverified_.isEmpty(); }
+
     // The view on screen (pixels per cm and where the concrete's lower-left corner
     // is), and whether it still follows the frame.
     const render::DrawingView& view() const { return view_; }
@@ -66,6 +71,7 @@ private:
     engine::SectionGeometry geometry_;
     bool hasSection_ = false;
     bool stale_ = false;
+    QString unverified_;
     bool fitted_ = true;
     bool dragging_ = false;
     QPointF dragFrom_;

@@ -1,5 +1,8 @@
 #include "ui/solutions_dialog.h"
 
+#include "base/number_text.h"
+#include "ui/interaction_plot.h"
+
 #include <QButtonGroup>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -24,11 +27,19 @@ SolutionsDialog::SolutionsDialog(Form11Model& form, std::function<void()> escolh
     auto* grade = new QGridLayout(conteudo);
     grade->setHorizontalSpacing(6);
     grade->setVerticalSpacing(2);
-    const char* cabecalhos[] = {"Aço (Kg)", "Barras na base", "Barras na altura", "Estribo (mm)", "Estribo"};
+    const char* cabecalhos[kColunas] = {"Barra (mm)", "Barras", "As (cm2)", "Utilização", "Na base", "Na altura",
+                                        "Estribo", "Aço long. (kg)", "Aço total (kg)"};
+    const char* dicas[kColunas] = {
+        "Diâmetro da barra longitudinal", "Número total de barras da seção", "Área de aço efetiva",
+        "Utilização da seção detalhada sob o caso mais desfavorável (100 % no limite)",
+        "Barras em cada face de largura b", "Barras em cada face de altura h", "Estribo e espaçamento",
+        "Peso das barras longitudinais: a ordem da lista",
+        "Barras longitudinais e estribos principais (um a cada espaçamento, mais um; sem os suplementares)"};
     grade->addWidget(new QLabel(QStringLiteral("Nº")), 0, 0);
-    for (int c = 0; c < 5; ++c) {
+    for (int c = 0; c < kColunas; ++c) {
         auto* l = new QLabel(QString::fromUtf8(cabecalhos[c]));
         l->setAlignment(Qt::AlignCenter);
+        l->setToolTip(QString::fromUtf8(dicas[c]));
         grade->addWidget(l, 0, c + 1);
     }
     grupo_ = new QButtonGroup(this);
@@ -38,12 +49,12 @@ SolutionsDialog::SolutionsDialog(Form11Model& form, std::function<void()> escolh
         l.opcao->setObjectName(QStringLiteral("Option1(%1)").arg(i));
         grupo_->addButton(l.opcao, i);
         grade->addWidget(l.opcao, i + 1, 0);
-        for (int c = 0; c < 5; ++c) {
+        for (int c = 0; c < kColunas; ++c) {
             auto* e = new QLineEdit;
             e->setReadOnly(true);
             e->setFocusPolicy(Qt::NoFocus);
             e->setAlignment(Qt::AlignRight);
-            e->setFixedWidth(80);
+            e->setFixedWidth(c == kEstribo ? 84 : 68);
             l.caixas[static_cast<std::size_t>(c)] = e;
             grade->addWidget(e, i + 1, c + 1);
         }
@@ -96,15 +107,37 @@ void SolutionsDialog::atualiza()
         l.opcao->setEnabled(r.Option.Enabled);
         l.opcao->setChecked(r.Option.Value);
         l.opcao->setVisible(mostra);
-        const std::string* textos[] = {&r.Peso, &r.nBase, &r.nAltura, &r.DiamEstriboMm, &r.Estribo};
-        for (std::size_t c = 0; c < 5; ++c) {
-            l.caixas[c]->setText(QString::fromStdString(*textos[c]));
+        const auto* d = static_cast<std::size_t>(i) < detalhes_.size() && detalhes_[static_cast<std::size_t>(i)].calculado
+                            ? &detalhes_[static_cast<std::size_t>(i)]
+                            : nullptr;
+        const auto qs = [](const std::string& t) { return QString::fromStdString(t); };
+        std::array<QString, kColunas> textos;
+        textos[kNaBase] = qs(r.nBase);
+        textos[kNaAltura] = qs(r.nAltura);
+        textos[kPesoLongitudinal] = qs(r.Peso);
+        textos[kEstribo] = r.DiamEstriboMm.empty() ? QString() : QStringLiteral("ø %1").arg(qs(r.DiamEstriboMm));
+        if (d && mostra && !r.Peso.empty()) {
+            textos[kBarra] = qs(Format(d->diametroBarra * 10, "##0.0"));
+            textos[kBarras] = QString::number(d->barras);
+            textos[kArea] = qs(Format(d->area, "##0.00"));
+            textos[kUtilizacao] = utilisationText(d->utilizacao);
+            textos[kEstribo] = QStringLiteral("ø %1 c/%2").arg(qs(Str(d->diametroEstribo * 10)), qs(Str(d->espacamentoEstribo)));
+            textos[kPesoTotal] = qs(Format(d->pesoTotal, "##0.00"));
+        }
+        for (std::size_t c = 0; c < kColunas; ++c) {
+            l.caixas[c]->setText(textos[c]);
             l.caixas[c]->setVisible(mostra);
         }
     }
     grupo_->setExclusive(true);
     vazio_->setVisible(form_.RowsShown == 0);
     atualizando_ = false;
+}
+
+void SolutionsDialog::poeDetalhes(std::vector<DetalheDaSolucao> detalhes)
+{
+    detalhes_ = std::move(detalhes);
+    atualiza();
 }
 
 void SolutionsDialog::escolheu(int linha)

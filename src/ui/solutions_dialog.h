@@ -1,8 +1,13 @@
 #pragma once
-// "Soluções": the stored arrangements, lightest first. Choosing a row puts that
-// arrangement into the main window and recalculates it there.
+// "Soluções": the stored arrangements, lightest first, each with its bar, the count,
+// As, the utilisation, the bars per face, the stirrup with its spacing, and the steel
+// without and with the stirrups. Choosing a row puts that arrangement into the main
+// window and recalculates it there.
 
 #include "window/forms.h"
+#include "window/solution_details.h"
+
+#include <vector>
 
 #include <QDialog>
 
@@ -27,6 +32,11 @@ public:
 
     // Repaints the rows from the model.
     void atualiza();
+    // The figures of each row worked out again (window/solution_details.h).
+    void poeDetalhes(std::vector<DetalheDaSolucao> detalhes);
+
+    enum Coluna { kBarra, kBarras, kArea, kUtilizacao, kNaBase, kNaAltura, kEstribo, kPesoLongitudinal, kPesoTotal,
+                  kColunas };
 
     QRadioButton* opcao(int linha) const { return linhas_[static_cast<std::size_t>(linha)].opcao; }
     QLineEdit* caixa(int linha, int coluna) const
@@ -40,7 +50,7 @@ protected:
 private:
     struct Linha {
         QRadioButton* opcao = nullptr;
-        std::array<QLineEdit*, 5> caixas{};
+        std::array<QLineEdit*, kColunas> caixas{};
     };
     void escolheu(int linha);
 
@@ -52,6 +62,7 @@ private:
     QScrollArea* rolagem_ = nullptr;
     QWidget* conteudo_ = nullptr;
     bool atualizando_ = false;
+    std::vector<DetalheDaSolucao> detalhes_;
 };
 
 } // namespace pilarix::ui

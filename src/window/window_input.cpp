@@ -176,8 +176,9 @@ const std::vector<Entrada>& entradas()
         t.push_back(campo("Form8.Combo3", P | R | B, [](Program& p) -> std::string& { return p.Form8.Combo3.Text; }));
         t.push_back(campo("Form8.Text2", P | R | B, [](Program& p) -> std::string& { return p.Form8.Text2.Text; }));
         t.push_back(campo("Form8.Text1", P | R | B, [](Program& p) -> std::string& { return p.Form8.Text1.Text; }));
-        // The load cases beyond the first are the project's; the window calculates the first.
-        t.push_back({"Casos", P, casos, poeCasos});
+        // Every load case is calculated and verified, and the search keeps only the
+        // arrangements that carry them all.
+        t.push_back({"Casos", P | R | B, casos, poeCasos});
         return t;
     }();
     return tabela;

@@ -20,8 +20,8 @@ enum class Alcance {
     Projeto,   // everything a project file saves
     Resultado, // everything the result of "&Calcula" depends on (not the steps of
                // the "-" / "+" buttons nor the scale of the exported drawing)
-    Busca,     // what the list of the search was found for: the section, the forces,
-               // the materials, the cover, the bar settings and "Outros valores"; not
+    Busca,     // what the list of the search was found for: the section, the forces
+               // and the load cases, the materials, the cover, the bar settings and "Outros valores"; not
                // the bars per face, d' and the stirrup, which the list itself puts in
 };
 

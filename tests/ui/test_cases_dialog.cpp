@@ -33,10 +33,30 @@ TEST(UiCasos, PastedSpreadsheetRowsBecomeCasesWithAPointDecimal)
     EXPECT_EQ(c.alteracoes, 1);
 
     // A line that is not a case pastes nothing, and says which.
-    for (const char* ruim : {"vento\t1.234,5\t10", "vento\tmuito\t10", "um;dois\t1\t2", "só um campo"}) {
+    for (const char* ruim : {"vento\t1.23,5\t10", "vento\tmuito\t10", "um;dois\t1\t2", "só um campo"}) {
         EXPECT_FALSE(c.dialogo.cola(QString::fromUtf8(ruim))) << ruim;
         EXPECT_EQ(c.p.OutrosCasos.size(), 2u) << ruim;
         EXPECT_FALSE(c.dialogo.aviso()->text().isEmpty()) << ruim;
+    }
+}
+
+TEST(UiCasos, ASpreadsheetBlockKeepsItsNumbersAndLosesItsHeadings)
+{
+    const struct {
+        const char *nome, *colado, *nd, *md;
+        std::size_t casos;
+    } rows[] = {
+        {"thousands point and decimal comma", "vento\t1.350,0\t-2.000,5", "1350.0", "-2000.5", 1},
+        {"a header row is skipped", "Caso\tNd (KN)\tMd (KN.m)\nvento\t200\t150", "200", "150", 1},
+        {"headings over forces alone", "Nd\tMd\n200\t150\n300\t100", "200", "150", 2},
+        {"a point alone is the program's decimal point", "vento\t1.350\t10", "1.350", "10", 1},
+    };
+    for (const auto& r : rows) {
+        Casos c;
+        ASSERT_TRUE(c.dialogo.cola(QString::fromUtf8(r.colado))) << r.nome << c.dialogo.aviso()->text().toStdString();
+        ASSERT_EQ(c.p.OutrosCasos.size(), r.casos) << r.nome;
+        EXPECT_EQ(c.p.OutrosCasos[0].nd, r.nd) << r.nome;
+        EXPECT_EQ(c.p.OutrosCasos[0].md, r.md) << r.nome;
     }
 }
 

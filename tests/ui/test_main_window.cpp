@@ -288,7 +288,7 @@ TEST(UiSolucoes, SearchThenStepThroughTheSolutionsAndChooseFromTheList)
         titulo = d->windowTitle().toStdString();
         for (auto* r : d->findChildren<QRadioButton*>())
             linhasVisiveis += r->isVisibleTo(d);
-        peso1 = static_cast<ui::SolutionsDialog*>(d)->caixa(0, 0)->text().toStdString();
+        peso1 = static_cast<ui::SolutionsDialog*>(d)->caixa(0, ui::SolutionsDialog::kPesoLongitudinal)->text().toStdString();
         d->findChild<QRadioButton*>(QStringLiteral("Option1(4)"))->click();
         escolhidoNaJanela = j.texto("Text4") + "x" + j.texto("Text5");
         botaoComTexto(d, QStringLiteral("&Voltar"))->click();
@@ -426,14 +426,14 @@ TEST(UiDialogosReais, DEstimateIsAcceptedIntoTheDBox)
         auto* barra = d->findChild<QComboBox*>(QStringLiteral("Combo2"));
         estribo->setCurrentText(QStringLiteral("6,3 mm (1/4'')"));
         barra->setCurrentText(QStringLiteral("20 mm (3/4'')"));
-        d->findChild<QLineEdit*>(QStringLiteral("Text1"))->setText(QStringLiteral("25"));
+        d->findChild<QLineEdit*>(QStringLiteral("Text1"))->setText(QStringLiteral("2.5")); // cm, as the window
         d->findChild<QAbstractButton*>(QStringLiteral("Command4"))->click(); // "&Calcula"
         estimativa = d->findChild<QLineEdit*>(QStringLiteral("Text2"))->text().toStdString();
         d->findChild<QAbstractButton*>(QStringLiteral("Command2"))->click(); // "Calcula e &aceita"
     });
     w.findChild<QPushButton*>(QStringLiteral("Command17"))->click();
     EXPECT_EQ(titulo, "Estimativa de d'");
-    EXPECT_EQ(estimativa, "41.3");
+    EXPECT_EQ(estimativa, "4.13");
     EXPECT_NEAR(Val(w.findChild<QLineEdit*>(QStringLiteral("Text3"))->text().toStdString()), 4.13, 1e-9);
 }
 
@@ -490,7 +490,10 @@ TEST(UiJanela, MenusHoldTheProgramsItemsInTheirOrder)
     ASSERT_NE(valores, nullptr);
     EXPECT_TRUE(naOrdem(menus[0]->menu()->actions(), {QStringLiteral("&Abrir arquivo..."), QStringLiteral("Carre&gar valores padrões"),
                                            QStringLiteral("&Salvar como..."), QStringLiteral("Salvar valores como &padrão"),
-                                           QStringLiteral("S&obre"), QStringLiteral("Sai&r")}));
+                                           QStringLiteral("Sai&r")}));
+    // "Sobre" is where a desktop program has it: under "Ajuda", after the help.
+    EXPECT_TRUE(naOrdem(menus.last()->menu()->actions(),
+                        {QStringLiteral("&Ajuda do Pilarix"), QStringLiteral("S&obre o Pilarix")}));
     EXPECT_TRUE(naOrdem(valores->menu()->actions(), {QStringLiteral("Outros")}));
 }
 

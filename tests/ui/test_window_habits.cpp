@@ -133,8 +133,12 @@ TEST(UiEntrada, AnEmptyOrWrongBoxIsNamedAndNothingIsCalculated)
         {"Text22", "", "A caixa \"γs (coef. do aço)\" está vazia"},
         {"Text4", "1", "A caixa \"Barras nas faces da base\" tem 1: cada face precisa de pelo menos 2 barras"},
         {"Text5", "0", "A caixa \"Barras nas faces da altura\" tem 0: cada face precisa de pelo menos 2 barras"},
-        {"Text16", "-", "A caixa \"Nd\" tem \"-\", que não é um número"},
-        {"Text18", ".", "A caixa \"Fck\" tem \".\", que não é um número"},
+        {"Text16", "-", "A caixa \"Nd\" tem \"-\": Nd é um número"},
+        {"Text18", ".", "A caixa \"Fck\" tem \".\": fck é um número positivo"},
+        // Refused whole, as typed: never read as "225", "19" or "30".
+        {"Text1", "22,5", "A caixa \"Base (cm)\" tem \"22,5\": a base é um número inteiro de centímetros"},
+        {"Text18", "-30", "A caixa \"Fck\" tem \"-30\": fck é um número positivo"},
+        {"Text16", "1e9", "A caixa \"Nd\" tem 1e9 KN, fora do que o programa aceita"},
         {"Text6", "0", "Escala = 0: digite a escala"},
         {"Text6", "", "A caixa \"Escala\" está vazia"},
     };

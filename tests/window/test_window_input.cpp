@@ -43,7 +43,7 @@ TEST(WindowInput, EachScopeDependsOnItsOwnInputs)
         {"Text4", "3", true, true, false},       {"Text3", "5", true, true, false},
         {"Option3|Option5|Option6", "Option5", true, true, false},
         {"Text31", "5", true, false, false},     {"Text6", "10", true, false, false},
-        {"Casos", "1\nvento;100;200", true, false, false},
+        {"Casos", "1\nvento;100;200", true, true, true},
     };
     for (const auto& r : rows) {
         PolicyDialogs d;
