@@ -10,6 +10,7 @@
 #include "files/record_text.h"
 #include "files/safe_write.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <cerrno>
@@ -224,12 +225,26 @@ bool leCampos(const std::string& nome, std::vector<std::string>& campos, std::st
 //   d' automático;1           "d' automático f(cobrimento)" (Check3) ticked (1 or 2)
 //   d' digitado;VALOR         d' as it stood before the calculation rewrote record 8,
 //                             %-encoded; it goes back into the d' box on loading
+//   Obra;TEXTO  Cliente;TEXTO  Pilar;TEXTO  Engenheiro;TEXTO  Revisão;TEXTO
+//                             the heading of the report ("Dados da obra..."), each
+//                             %-encoded, each only when it is not empty
 
 constexpr const char* kCaso = "Caso";
 constexpr const char* kCasoCodificado = "Caso%";
 constexpr const char* kBitolaFixa = "Bitola fixa";
 constexpr const char* kDAutomatico = "d' automático";
 constexpr const char* kDDigitado = "d' digitado";
+
+// The heading of the report, in the order of the file.
+struct CampoDaObra {
+    const char* registro;
+    std::string DadosDaObra::*campo;
+};
+constexpr std::array<CampoDaObra, 5> kCamposDaObra{{{"Obra", &DadosDaObra::obra},
+                                                    {"Cliente", &DadosDaObra::cliente},
+                                                    {"Pilar", &DadosDaObra::pilar},
+                                                    {"Engenheiro", &DadosDaObra::engenheiro},
+                                                    {"Revisão", &DadosDaObra::revisao}}};
 
 std::vector<std::string> partes(const std::string& s)
 {
@@ -293,6 +308,17 @@ bool registrosExtras(const Program& p, std::vector<std::string>& e, std::string&
         e.push_back(std::string(kDAutomatico) + ";" + std::to_string(p.Form1.Check3.Value));
     if (dLinhaReescrita(p))
         e.push_back(std::string(kDDigitado) + ";" + files::percentEncoded(*p.DLinhaDigitado));
+    for (const auto& [registro, campo] : kCamposDaObra) {
+        const std::string& texto = p.Obra.*campo;
+        if (texto.empty())
+            continue;
+        if (!files::isUtf8(texto)) {
+            erro = "Não foi possível gravar o arquivo " + aspas(p.NomeArquivo) + ": " + registro
+                   + " (dados da obra) não é texto UTF-8.";
+            return false;
+        }
+        e.push_back(std::string(registro) + ";" + files::percentEncoded(texto));
+    }
     return true;
 }
 
@@ -302,6 +328,7 @@ struct Extras {
     int bitolaFixa = 0;
     int dAutomatico = 0;
     std::optional<std::string> dDigitado;
+    DadosDaObra obra;
 };
 
 // The records after the 39, or the first that is broken, told in `erro`.
@@ -357,9 +384,19 @@ Extras leExtras(const std::vector<std::string>& campos, const std::string& nome,
                 quebrado("o d' digitado se grava como d' digitado;VALOR, com % e dois algarismos hexadecimais");
             else
                 x.dDigitado = *d;
+        } else if (const auto campo = std::find_if(kCamposDaObra.begin(), kCamposDaObra.end(),
+                                                   [&](const CampoDaObra& c) { return p[0] == c.registro; });
+                   campo != kCamposDaObra.end()) {
+            const auto texto = p.size() == 2 ? files::percentDecoded(p[1]) : std::nullopt;
+            if (!texto || !files::isUtf8(*texto))
+                quebrado(std::string(campo->registro) + " se grava como " + campo->registro
+                         + ";TEXTO, com % e dois algarismos hexadecimais");
+            else
+                x.obra.*(campo->campo) = *texto;
         } else {
-            quebrado("depois dos 39 registros vêm só casos de carga (Caso;...), a bitola fixada (Bitola fixa;...)"
-                     " e o d' (d' automático;... e d' digitado;...)");
+            quebrado("depois dos 39 registros vêm só casos de carga (Caso;...), a bitola fixada (Bitola fixa;...),"
+                     " o d' (d' automático;... e d' digitado;...) e os dados da obra (Obra;..., Cliente;..., "
+                     "Pilar;..., Engenheiro;..., Revisão;...)");
         }
     }
     if (erro.empty() && !primeiroCaso && x.casos.empty())
@@ -507,6 +544,7 @@ void Program::Carrega33()
     OutrosCasos = extras.casos;
     BitolaFixa = extras.bitolaFixa;
     Form1.Check3.Value = extras.dAutomatico;
+    Obra = extras.obra;
     // The next calculation starts where the saved one did; saved again before it,
     // the file is the same.
     if (extras.dDigitado) {

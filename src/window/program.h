@@ -63,6 +63,12 @@ struct CasoDeCarga {
     std::string nome, nd, md;
 };
 
+// The work a column belongs to, printed at the head of the calculation report and
+// saved with the project after the 39 records ("Obra;...", files/project_file.cpp).
+struct DadosDaObra {
+    std::string obra, cliente, pilar, engenheiro, revisao;
+};
+
 // What the calculation of several load cases found for each.
 struct ResultadoDoCaso {
     std::string nome;
@@ -185,6 +191,7 @@ public:
     std::vector<engine::LoadCase> casosDeCarga();
 
     // ---- project files (files/project_file.cpp) ----
+    DadosDaObra Obra; // "Arquivo > Dados da obra..."
     std::string NomeArquivo;
     std::string ErroArquivo; // why the last file could not be read or written; empty when it could
     void Grava32();

@@ -160,6 +160,12 @@ const std::vector<Entrada>& entradas()
         t.push_back(campo("Form8.Text1", P | R | B, [](Program& p) -> std::string& { return p.Form8.Text1.Text; }));
         // The load cases beyond the first are the project's; the window calculates the first.
         t.push_back({"Casos", P, casos, poeCasos});
+        // The work, the client, the column's name, the engineer and the revision: the project's, not the result's.
+        t.push_back(campo("Obra", P, [](Program& p) -> std::string& { return p.Obra.obra; }));
+        t.push_back(campo("Cliente", P, [](Program& p) -> std::string& { return p.Obra.cliente; }));
+        t.push_back(campo("Pilar", P, [](Program& p) -> std::string& { return p.Obra.pilar; }));
+        t.push_back(campo("Engenheiro", P, [](Program& p) -> std::string& { return p.Obra.engenheiro; }));
+        t.push_back(campo("Revisao", P, [](Program& p) -> std::string& { return p.Obra.revisao; }));
         return t;
     }();
     return tabela;

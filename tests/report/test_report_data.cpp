@@ -120,7 +120,7 @@ TEST(ReportData, DefaultColumnReadsAsTheWindow)
         EXPECT_EQ(l.value + (l.unit.empty() ? "" : " " + l.unit), row.value) << row.label;
     }
     // d' was typed (the box is empty) and the cover correction rewrote it.
-    EXPECT_TRUE(contains(line(r, kData, "d′").note, "reescrito pela correção do cobrimento: " + f.Text3.Text));
+    EXPECT_TRUE(contains(line(r, kData, "d′").note, "caixa d′ vazia (0 cm); reescrito pela correção do cobrimento para " + f.Text3.Text + " cm"));
     EXPECT_TRUE(contains(line(r, kDesign, "As,nec").note, "As,compat = 6.57 cm²"));
 
     // Every dialog of the run, in order, with the answer given.
@@ -276,7 +276,7 @@ TEST(ReportData, SearchListsItsLightestSolutionsWhileTheyAreTheWindows)
         }
     }
     EXPECT_EQ(r.solutions.front().weight, p.Form1.Text19.Text);
-    EXPECT_TRUE(contains(line(r, kData, "d′").note, "achado pela busca")) << line(r, kData, "d′").note;
+    EXPECT_TRUE(contains(line(r, kData, "d′").note, "solução nº 1 da busca da melhor solução")) << line(r, kData, "d′").note;
 
     // One more bar on the depth faces is another arrangement: the list is not its own.
     p.Command4_Click();
