@@ -156,10 +156,12 @@ QRectF textRect(const QFontMetricsF& fm, const QString& text)
 
 // The eight places about a point, near then farther, the first preferred: above
 // right, as a reader looks for a name.
-std::vector<QRectF> placesAround(QPointF p, double radius, QSizeF size, double gap)
+std::vector<QRectF> placesAround(QPointF p, double radius, QSizeF size, double gap, bool nearOnly)
 {
     std::vector<QRectF> out;
     for (double d : {radius + gap, radius + 3.5 * gap}) {
+        if (nearOnly && d > radius + gap)
+            break;
         const double w = size.width(), h = size.height();
         const std::array<QPointF, 8> corners{
             QPointF(p.x() + d, p.y() - d / 2 - h),      QPointF(p.x() + d, p.y() + d / 2),
@@ -175,12 +177,12 @@ std::vector<QRectF> placesAround(QPointF p, double radius, QSizeF size, double g
 // The first free place for one of the texts, the fullest first; none where nothing fits.
 std::optional<std::pair<QRectF, int>> firstFree(const std::vector<QString>& texts, const QFontMetricsF& fm,
                                                 QPointF at, double radius, double gap, const QRectF& room,
-                                                const Obstacles& obstacles)
+                                                const Obstacles& obstacles, bool nearOnly = false)
 {
     for (int k = 0; k < static_cast<int>(texts.size()); ++k) {
         const QSizeF size = textRect(fm, texts[static_cast<std::size_t>(k)]).size();
         for (bool strict : {true, false})
-            for (const QRectF& r : placesAround(at, radius, size, gap))
+            for (const QRectF& r : placesAround(at, radius, size, gap, nearOnly))
                 if (room.contains(r) && !obstacles.blocks(r, strict))
                     return std::make_pair(r, k);
     }
@@ -430,7 +432,9 @@ ChartLayout layoutChart(const InteractionChart& chart, const QRectF& bounds, con
     }
     if (resistance) {
         const std::vector<QString> texts{QStringLiteral("M_Rd")};
-        if (const auto found = firstFree(texts, fm, *resistance, kDiamond * u, kGap * u, bounds, obstacles))
+        // Beside its mark or not at all: farther off it would name another point. A
+        // governing point on the curve hides the mark, and its name says enough.
+        if (const auto found = firstFree(texts, fm, *resistance, kDiamond * u, kGap * u, bounds, obstacles, true))
             place({ChartLabel::Kind::Resistance, texts[0], found->first});
     }
     return out;
