@@ -248,8 +248,8 @@ void inputSection(const Program& p, const engine::ColumnResult& r, const Solutio
     const engine::Concrete c = engine::designConcrete(in.fck, in.gammaC);
     w.line("fck do concreto", mpa(c.fck, 1), "MPa")
         .line("γc", Str(in.gammaC))
-        .line("fcd = fck / γc", mpa(c.fcd, 2), "MPa")
-        .line("σcd = 0.85 fcd", mpa(c.sigcd, 2), "MPa");
+        .line("fcd = fck / γc", mpa(c.fcd, 3), "MPa")
+        .line("σcd = 0.85 fcd", mpa(c.sigcd, 3), "MPa");
 
     const engine::Steel a = engine::designSteel(in.steel, in.gammaS, in.Es);
     w.line("Aço da armadura", std::string(engine::steelGradeText(in.steel)), "", a.classB ? "classe B" : "classe A")

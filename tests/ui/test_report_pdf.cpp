@@ -120,7 +120,7 @@ TEST(ReportPdf, DefaultColumnHasEveryNumberAndEveryMessageInOrder)
         "Seção b × h: 20 × 50 cm",
         "caixa d′ vazia (0 cm); reescrito pela correção do cobrimento para " + f.Text3.Text + " cm",
         "Nd: 400 KN (400.0 kN) Md: 10000 KN.cm (100.00 kN·m)",
-        "σcd = 0.85 fcd: 11.33 MPa",
+        "σcd = 0.85 fcd: 11.333 MPa",
         "Aço da armadura: Aço CA-50A",
         "Zona de solicitação: 2 (C)",
         "βx = x / h: " + f.Text28.Text,
