@@ -72,6 +72,12 @@ Axis niceAxis(double lo, double hi, double length, double perTick)
         }
     a.lo = lo;
     a.hi = hi;
+    // A step as long as the span would leave the origin the only value: a narrow plot
+    // still reads a scale, one round step shorter.
+    while (std::floor(hi / a.step + 1e-9) - std::ceil(lo / a.step - 1e-9) < 1 && a.step > magnitude * 1e-3) {
+        const double k = a.step / std::pow(10.0, std::floor(std::log10(a.step) + 1e-12));
+        a.step *= k > 2.4 && k < 2.6 ? 0.8 : 0.5; // 5 → 2.5 → 2 → 1 → 0.5
+    }
     const double first = std::ceil(lo / a.step - 1e-9), last = std::floor(hi / a.step + 1e-9);
     if (!(a.step > 0) || !finite(first) || !finite(last) || last - first > 200) {
         a = Axis{};
@@ -289,18 +295,6 @@ ChartLayout layoutChart(const InteractionChart& chart, const QRectF& bounds, con
     const double right = 12 * u + fm.horizontalAdvance(QStringLiteral("-0000")) / 2;
     const double width = std::max(bounds.width() - left - right, 1.0);
 
-    // Values of M side by side need room: widen the spacing until they fit.
-    double perTick = 70 * u;
-    Axis m = niceAxis(mMin, mMax, width, perTick);
-    for (int i = 0; i < 4; ++i) {
-        const double room = width / std::max<double>(static_cast<double>(m.ticks.size()) - 1, 1);
-        const double need = widestLabel(fm, m) + 12 * u;
-        if (need <= room)
-            break;
-        perTick *= need / room + 0.05;
-        m = niceAxis(mMin, mMax, width, perTick);
-    }
-
     out.area = QRectF(bounds.left() + left, bounds.top() + top, width, height);
     // Two units, two scales; only a frame far wider or taller than a sheet is narrowed,
     // so that the curve does not become a line.
@@ -312,6 +306,20 @@ ChartLayout layoutChart(const InteractionChart& chart, const QRectF& bounds, con
     } else if (a.width() < kTallest * a.height()) {
         const double h = a.width() / kTallest;
         a.adjust(0, (a.height() - h) / 2, 0, -(a.height() - h) / 2);
+        n = niceAxis(nMin, nMax, a.height(), 3 * line);
+    }
+
+    // Values of M side by side need room in the frame as it stands: widen the
+    // spacing until they fit.
+    double perTick = 70 * u;
+    Axis m = niceAxis(mMin, mMax, a.width(), perTick);
+    for (int i = 0; i < 4; ++i) {
+        const double room = a.width() / std::max<double>(static_cast<double>(m.ticks.size()) - 1, 1);
+        const double need = widestLabel(fm, m) + 12 * u;
+        if (need <= room)
+            break;
+        perTick *= need / room + 0.05;
+        m = niceAxis(mMin, mMax, a.width(), perTick);
     }
     out.mLo = m.lo;
     out.mHi = m.hi;
