@@ -5,6 +5,8 @@
 # make install - build the two programs and install them with their desktop entry,
 #              icon, MIME type and manual pages (PREFIX=/usr/local, DESTDIR honoured)
 # make deb   - build the Debian package pilarix_VERSION_ARCH.deb and print its path
+# make imagens - the pictures the README links (docs/imagens/), made again from the
+#              programs in $(BUILD) (build/, made with "make programs" when missing)
 
 PACKAGES := cmake make g++ pkg-config qt6-base-dev libgl-dev libgtest-dev libgmock-dev \
             libbenchmark-dev nlohmann-json3-dev libdxflib-dev qt6-svg-dev python3-ezdxf \
@@ -12,7 +14,7 @@ PACKAGES := cmake make g++ pkg-config qt6-base-dev libgl-dev libgtest-dev libgmo
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 PREFIX ?= /usr/local
 
-.PHONY: run test bench deps build build-asan cli clean programs install deb
+.PHONY: run test bench deps build build-asan cli clean programs install deb imagens
 
 deps:
 	@missing=""; \
@@ -68,6 +70,32 @@ install: programs
 deb: programs
 	cd build && cpack -G DEB
 	@echo "Pacote: $$(ls -t $(CURDIR)/build/pilarix_*.deb | head -n 1)"
+
+BUILD ?= build
+IMAGENS := $(CURDIR)/docs/imagens
+# Two load cases and the heading of the work: the report and the diagram then show
+# every part they have.
+EXEMPLO := --caso "topo;400;10000" --caso "vento;500;15000" --set Obra="Edifício Exemplo" \
+           --set Cliente="Construtora Exemplo" --set Pilar=P1 --set Engenheiro="Eng. Responsável" --set Revisao=R0
+
+# In an empty folder, so that the window starts from its built-in defaults and no
+# "Padrão.txt" of the working tree is read or written.
+imagens:
+	@test -x $(BUILD)/pilarix -a -x $(BUILD)/pilarix-cli || $(MAKE) programs
+	@set -e; bin="$$(cd $(BUILD) && pwd)"; tmp="$$(mktemp -d)"; trap 'rm -rf "$$tmp"' EXIT; cd "$$tmp"; \
+	mkdir -p $(IMAGENS); rm -f $(IMAGENS)/memorial-*.png; \
+	export QT_QPA_PLATFORM=offscreen; \
+	QT_SCALE_FACTOR=1 "$$bin/pilarix" --screenshot $(IMAGENS)/janela-1366x768.png --tela 1366x768 2>/dev/null; \
+	QT_SCALE_FACTOR=1.5 "$$bin/pilarix" --screenshot $(IMAGENS)/janela-1366x768-150.png --tela 1366x768 2>/dev/null; \
+	"$$bin/pilarix" --screenshot $(IMAGENS)/diagrama.png --dialogo diagrama 2>/dev/null; \
+	"$$bin/pilarix-cli" --sem-padrao $(EXEMPLO) --salvar casos.txt --desenho $(IMAGENS)/secao.png \
+	  --memorial memorial.pdf >/dev/null; \
+	"$$bin/pilarix" --screenshot $(IMAGENS)/combinacoes.png casos.txt --dialogo casos 2>/dev/null; \
+	"$$bin/pilarix" --screenshot $(IMAGENS)/combinacoes-diagrama.png casos.txt --dialogo diagrama 2>/dev/null; \
+	pdftoppm -png -r 60 memorial.pdf $(IMAGENS)/memorial
+	@# Every picture the README links is there, and none is heavy.
+	@for f in $$(grep -o '(docs/imagens/[^)]*)' README.md | tr -d '()'); do test -f "$$f" || { echo "falta $$f"; exit 1; }; done
+	@ls -l $(IMAGENS)/*.png | awk '{ if ($$5 > 153600) { print "grande demais: " $$9; bad = 1 } } END { exit bad }'
 
 clean:
 	rm -rf build build-asan build-bench

@@ -104,6 +104,17 @@ bool setControlByName(Program& p, const std::string& name, const std::string& va
         return true;
     }
 
+    // The heading of the report: any text.
+    const std::map<std::string, std::string*> work{{"Obra", &p.Obra.obra},
+                                                   {"Cliente", &p.Obra.cliente},
+                                                   {"Pilar", &p.Obra.pilar},
+                                                   {"Engenheiro", &p.Obra.engenheiro},
+                                                   {"Revisao", &p.Obra.revisao}};
+    if (auto it = work.find(name); it != work.end()) {
+        *it->second = value;
+        return true;
+    }
+
     error = "controle desconhecido: " + name;
     return false;
 }

@@ -1,6 +1,7 @@
 #pragma once
 // The controls of the main window and of "Outros valores" by the names the program
-// gives them ("Text1", "Combo4", "Option7(1)", "Form8.Text1"), for the command line.
+// gives them ("Text1", "Combo4", "Option7(1)", "Form8.Text1"), for the command line,
+// and the heading of the report: "Obra", "Cliente", "Pilar", "Engenheiro", "Revisao".
 
 #include "window/program.h"
 

@@ -231,6 +231,9 @@ bool leCampos(const std::string& nome, std::vector<std::string>& campos, std::st
 //   SegundaOrdem;rigidez      the κ method (none: the approximate curvature)
 //   Caso;NOME;Nd;Md;MdBase;MyTopo;MyBase
 //                             a further case with its 2014 end moments (empty: none)
+//   Obra;TEXTO  Cliente;TEXTO  Pilar;TEXTO  Engenheiro;TEXTO  Revisão;TEXTO
+//                             the heading of the report ("Dados da obra..."), each
+//                             %-encoded, each only when it is not empty
 
 constexpr const char* kCaso = "Caso";
 constexpr const char* kCasoCodificado = "Caso%";
@@ -247,6 +250,17 @@ const std::vector<std::pair<const char*, TextBox Form1Model::*>>& caixas2014()
         {"LeH", &Form1Model::LeH},       {"LeB", &Form1Model::LeB}};
     return t;
 }
+
+// The heading of the report, in the order of the file.
+struct CampoDaObra {
+    const char* registro;
+    std::string DadosDaObra::*campo;
+};
+constexpr std::array<CampoDaObra, 5> kCamposDaObra{{{"Obra", &DadosDaObra::obra},
+                                                    {"Cliente", &DadosDaObra::cliente},
+                                                    {"Pilar", &DadosDaObra::pilar},
+                                                    {"Engenheiro", &DadosDaObra::engenheiro},
+                                                    {"Revisão", &DadosDaObra::revisao}}};
 
 std::vector<std::string> partes(const std::string& s)
 {
@@ -333,6 +347,17 @@ bool registrosExtras(const Program& p, std::vector<std::string>& e, std::string&
     }
     if (p.Form1.SegundaOrdem.Text == "rigidez")
         e.push_back(std::string(kSegundaOrdem) + ";rigidez");
+    for (const auto& [registro, campo] : kCamposDaObra) {
+        const std::string& texto = p.Obra.*campo;
+        if (texto.empty())
+            continue;
+        if (!files::isUtf8(texto)) {
+            erro = "Não foi possível gravar o arquivo " + aspas(p.NomeArquivo) + ": " + registro
+                   + " (dados da obra) não é texto UTF-8.";
+            return false;
+        }
+        e.push_back(std::string(registro) + ";" + files::percentEncoded(texto));
+    }
     return true;
 }
 
@@ -345,6 +370,7 @@ struct Extras {
     int norma = 0; // the entry of the list: 0 the 2001 project, 1 2014, 2 2023
     bool rigidez = false;
     std::vector<std::pair<TextBox Form1Model::*, std::string>> caixas2014;
+    DadosDaObra obra;
 };
 
 // The records after the 39, or the first that is broken, told in `erro`.
@@ -422,9 +448,19 @@ Extras leExtras(const std::vector<std::string>& campos, const std::string& nome,
                 quebrado("o d' digitado se grava como d' digitado;VALOR, com % e dois algarismos hexadecimais");
             else
                 x.dDigitado = *d;
+        } else if (const auto campo = std::find_if(kCamposDaObra.begin(), kCamposDaObra.end(),
+                                                   [&](const CampoDaObra& c) { return p[0] == c.registro; });
+                   campo != kCamposDaObra.end()) {
+            const auto texto = p.size() == 2 ? files::percentDecoded(p[1]) : std::nullopt;
+            if (!texto || !files::isUtf8(*texto))
+                quebrado(std::string(campo->registro) + " se grava como " + campo->registro
+                         + ";TEXTO, com % e dois algarismos hexadecimais");
+            else
+                x.obra.*(campo->campo) = *texto;
         } else {
-            quebrado("depois dos 39 registros vêm só casos de carga (Caso;...), a bitola fixada (Bitola fixa;...)"
-                     ", o d' (d' automático;... e d' digitado;...) e o que a ABNT NBR 6118:2014 acrescenta (Norma;2014...)");
+            quebrado("depois dos 39 registros vêm só casos de carga (Caso;...), a bitola fixada (Bitola fixa;...),"
+                     " o d' (d' automático;... e d' digitado;...), os dados da obra (Obra;..., Cliente;..., "
+                     "Pilar;..., Engenheiro;..., Revisão;...) e o que a ABNT NBR 6118:2014 acrescenta (Norma;2014...)");
         }
     }
     if (erro.empty() && !primeiroCaso && x.casos.empty())
@@ -579,6 +615,7 @@ void Program::Carrega33()
         (Form1.*caixa).Text.clear();
     for (const auto& [caixa, valor] : extras.caixas2014)
         (Form1.*caixa).Text = valor;
+    Obra = extras.obra;
     // The next calculation starts where the saved one did; saved again before it,
     // the file is the same.
     if (extras.dDigitado) {

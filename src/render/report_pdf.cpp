@@ -6,9 +6,11 @@
 #include "render/report_pdf.h"
 
 #include "base/number_text.h"
+#include "engine/catalogue.h"
 #include "export/drawing_layout.h"
 #include "export/save_failure.h"
 #include "files/safe_write.h"
+#include "render/interaction_painter.h"
 #include "render/section_painter.h"
 #include "render/whole_file.h"
 
@@ -103,8 +105,6 @@ constexpr double kDrawingMargin = 4;                                 // mm round
 const QColor kHeading(0, 51, 102);
 const QColor kFailedColour(190, 0, 0);
 const QColor kGrey(95, 95, 95);
-const QColor kWithinColour(0, 145, 0);
-const QColor kCurveColour(0, 70, 150);
 
 QString qs(const std::string& s) { return QString::fromStdString(s); }
 
@@ -122,142 +122,34 @@ QFont font(double points, bool bold = false, bool italic = false)
     return f;
 }
 
-// ---- the interaction diagram ----
+// ---- the interaction diagram: the window's own painter ----
 
-struct Axis {
-    double lo = 0, hi = 1, step = 1;
-};
+// The painter's pixels of 1/96 in, on the PDF's device.
+constexpr double kPainterPixel = kDpi / 96.0;
 
-// A range holding every value and zero, a little wider, on steps of 1, 2 or 5 ×10^k.
-Axis axisFor(double lo, double hi)
+InteractionChart chartOf(const report::Diagram& d)
 {
-    lo = std::min(lo, 0.0);
-    hi = std::max(hi, 0.0);
-    if (!(hi - lo > 0) || !std::isfinite(hi - lo)) {
-        lo = -1;
-        hi = 1;
-    }
-    const double raw = (hi - lo) / 6;
-    const double magnitude = std::pow(10, std::floor(std::log10(raw)));
-    const double f = raw / magnitude;
-    const double step = (f <= 1 ? 1 : f <= 2 ? 2 : f <= 5 ? 5 : 10) * magnitude;
-    return {std::floor(lo / step - 0.05) * step, std::ceil(hi / step + 0.05) * step, step};
+    InteractionChart c;
+    c.forceUnit = d.forceUnit;
+    c.momentUnit = d.momentUnit;
+    c.curve = d.curve;
+    for (const auto& k : d.cases)
+        c.cases.push_back({k.name, k.nSd, k.mSd, k.utilisation, k.governing});
+    c.mRd = d.mRd;
+    return c;
 }
 
-std::string tickText(double v, double step)
-{
-    const int decimals = std::max(0, -static_cast<int>(std::floor(std::log10(step) + 1e-9)));
-    if (std::abs(v) < step * 1e-9)
-        v = 0;
-    return Format(v, decimals > 0 ? "##0." + std::string(static_cast<std::size_t>(decimals), '0') : "##0");
-}
+} // namespace
+
+InteractionChart diagramChart(const report::Diagram& d) { return chartOf(d); }
+
+namespace {
 
 void paintDiagram(QPainter& p, const QRectF& rect, const report::Diagram& d)
 {
-    p.setRenderHint(QPainter::Antialiasing, true);
-    double nLo = d.nSd, nHi = d.nSd, mLo = d.mSd, mHi = d.mSd;
-    for (const auto& [n, m] : d.curve) {
-        nLo = std::min(nLo, n);
-        nHi = std::max(nHi, n);
-        mLo = std::min(mLo, m);
-        mHi = std::max(mHi, m);
-    }
-    // As in the window's diagram: the moment across, the axial force up (compression).
-    const Axis ax = axisFor(mLo, mHi), ay = axisFor(nLo, nHi);
-    const QRectF plot = rect.adjusted(mm(20), mm(9), -mm(4), -mm(21));
-    const auto x = [&](double m) { return plot.left() + (m - ax.lo) / (ax.hi - ax.lo) * plot.width(); };
-    const auto y = [&](double n) { return plot.bottom() - (n - ay.lo) / (ay.hi - ay.lo) * plot.height(); };
-
-    // The grid and the ticks' values.
-    p.setFont(font(7));
-    QPen grid(QColor(215, 215, 215), mm(0.15));
-    // Whole steps from the low end; a count, not a sum, so that a step lost in the
-    // magnitude of the ends can never run on.
-    const auto ticks = [](const Axis& a) {
-        return std::min(40, static_cast<int>(std::lround((a.hi - a.lo) / a.step)));
-    };
-    for (int k = 0; k <= ticks(ax); ++k) {
-        const double v = ax.lo + k * ax.step;
-        p.setPen(grid);
-        p.drawLine(QPointF(x(v), plot.top()), QPointF(x(v), plot.bottom()));
-        p.setPen(kGrey);
-        p.drawText(QRectF(x(v) - mm(12), plot.bottom() + mm(2.5), mm(24), mm(4)), Qt::AlignHCenter | Qt::AlignTop,
-                   qs(tickText(v, ax.step)));
-    }
-    for (int k = 0; k <= ticks(ay); ++k) {
-        const double v = ay.lo + k * ay.step;
-        p.setPen(grid);
-        p.drawLine(QPointF(plot.left(), y(v)), QPointF(plot.right(), y(v)));
-        p.setPen(kGrey);
-        p.drawText(QRectF(rect.left(), y(v) - mm(2), plot.left() - rect.left() - mm(1.5), mm(4)),
-                   Qt::AlignRight | Qt::AlignVCenter, qs(tickText(v, ay.step)));
-    }
-    p.setPen(QPen(Qt::black, mm(0.25)));
-    p.setBrush(Qt::NoBrush);
-    p.drawRect(plot);
-    p.drawLine(QPointF(x(0), plot.top()), QPointF(x(0), plot.bottom()));
-    p.drawLine(QPointF(plot.left(), y(0)), QPointF(plot.right(), y(0)));
-
-    p.setFont(font(7.5, true));
-    p.setPen(Qt::black);
-    p.drawText(QRectF(plot.left(), plot.bottom() + mm(7.5), plot.width(), mm(5)), Qt::AlignHCenter | Qt::AlignTop,
-               QStringLiteral("M (%1)").arg(qs(d.momentUnit)));
-    p.drawText(QRectF(rect.left(), rect.top(), mm(80), mm(6)), Qt::AlignLeft | Qt::AlignTop,
-               QStringLiteral("N (%1), compressão positiva").arg(qs(d.forceUnit)));
-
-    // The curve, inside the frame (and inside the page the painter is clipped to).
-    p.save();
-    p.setClipRect(plot.adjusted(-mm(0.3), -mm(0.3), mm(0.3), mm(0.3)), Qt::IntersectClip);
-    if (d.curve.size() >= 3) {
-        QPolygonF poly;
-        poly.reserve(static_cast<qsizetype>(d.curve.size()));
-        for (const auto& [n, m] : d.curve)
-            poly << QPointF(x(m), y(n));
-        QPainterPath path;
-        path.addPolygon(poly);
-        path.closeSubpath();
-        p.setBrush(QColor(225, 235, 250));
-        p.setPen(QPen(kCurveColour, mm(0.45), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        p.drawPath(path);
-    }
-    // M_Rd at N_Sd, on the curve above the design point.
-    const QPointF sd(x(d.mSd), y(d.nSd));
-    if (d.mRd) {
-        const QPointF rd(x(*d.mRd), y(d.nSd));
-        p.setPen(QPen(kGrey, mm(0.25), Qt::DashLine));
-        p.drawLine(sd, rd);
-        p.setPen(QPen(kCurveColour, mm(0.3)));
-        p.setBrush(Qt::white);
-        p.drawEllipse(rd, mm(1.0), mm(1.0));
-    }
-    const QColor point = d.withinCurve() ? kWithinColour : kFailedColour;
-    p.setPen(QPen(Qt::black, mm(0.15)));
-    p.setBrush(point);
-    p.drawEllipse(sd, mm(1.2), mm(1.2));
-    p.restore();
-
-    // The legend, in a row under the axis' title.
-    p.setFont(font(7));
-    const double ly = plot.bottom() + mm(16);
-    const double third = plot.width() / 3;
-    const auto symbolX = [&](int k) { return plot.left() + k * third + mm(3); };
-    p.setPen(QPen(kCurveColour, mm(0.45)));
-    p.drawLine(QPointF(symbolX(0) - mm(2.5), ly), QPointF(symbolX(0) + mm(2.5), ly));
-    p.setPen(QPen(kCurveColour, mm(0.3)));
-    p.setBrush(Qt::white);
-    p.drawEllipse(QPointF(symbolX(1), ly), mm(1.0), mm(1.0));
-    p.setPen(QPen(Qt::black, mm(0.15)));
-    p.setBrush(point);
-    p.drawEllipse(QPointF(symbolX(2), ly), mm(1.2), mm(1.2));
-    p.setPen(Qt::black);
-    const auto text = [&](int k, const QString& s) {
-        p.drawText(QRectF(symbolX(k) + mm(4), ly - mm(2), third - mm(8), mm(4)), Qt::AlignLeft | Qt::AlignVCenter, s);
-    };
-    text(0, QStringLiteral("N_Rd–M_Rd da seção detalhada"));
-    text(1, QStringLiteral("M_Rd em N_Sd"));
-    text(2, QStringLiteral("(N_Sd, M_Sd), utilização %1")
-                .arg(std::isfinite(d.utilisation) ? qs(Format(100 * d.utilisation, "##0.0")) + QStringLiteral(" %")
-                                                  : QStringLiteral("sem limite")));
+    const InteractionChart chart = chartOf(d);
+    const ChartStyle style{font(7.5), kPainterPixel};
+    paintChart(p, chart, layoutChart(chart, rect, style, p.device()), style);
 }
 
 // ---- the section's drawing ----
@@ -290,6 +182,12 @@ public:
         block(blockFormat(2, 0), charFormat(10));
         cursor_.insertText(QStringLiteral("Pilar retangular de concreto armado sob flexão normal composta. NBR 6118 "
                                           "(Projeto de revisão da NB1 / 2001), método das zonas de solicitação."));
+        const report::Heading& h = r.heading;
+        for (const auto& [label, value] : {std::pair{"Obra", &h.work}, std::pair{"Cliente", &h.client},
+                                           std::pair{"Pilar", &h.column}, std::pair{"Engenheiro", &h.engineer},
+                                           std::pair{"Revisão", &h.revision}})
+            if (!value->empty())
+                meta(label, *value);
         meta("Projeto", r.project);
         meta("Data e hora", r.stamp.dateTime);
         meta("Programa", "Pilarix " + r.stamp.version);
@@ -421,6 +319,50 @@ public:
         cursor_.movePosition(QTextCursor::End);
     }
 
+    // A table of `rows` (the first its titles, in bold) with columns of these widths
+    // in mm; a row in `boldRows` stands out; numbers are right-aligned.
+    void table(const std::vector<std::vector<std::string>>& rows, const std::vector<double>& widthsMm,
+               const std::vector<bool>& boldRows = {}, const std::vector<bool>& failedRows = {})
+    {
+        block(blockFormat(3, 0), charFormat(9));
+        QTextTableFormat t;
+        t.setHeaderRowCount(1);
+        t.setCellPadding(layoutMm(0.6));
+        t.setCellSpacing(0);
+        t.setBorder(layoutMm(0.15));
+        t.setBorderBrush(QColor(150, 150, 150));
+        t.setBorderCollapse(true);
+        t.setAlignment(Qt::AlignLeft);
+        QList<QTextLength> widths;
+        for (double w : widthsMm)
+            widths << QTextLength(QTextLength::FixedLength, layoutMm(w));
+        t.setColumnWidthConstraints(widths);
+        const int columns = static_cast<int>(widthsMm.size());
+        cursor_.beginEditBlock();
+        QTextTable* table = cursor_.insertTable(static_cast<int>(rows.size()), columns, t);
+        for (int i = 0; i < static_cast<int>(rows.size()); ++i) {
+            const auto k = static_cast<std::size_t>(i);
+            const bool bold = i == 0 || (k < boldRows.size() && boldRows[k]);
+            const QColor colour = k < failedRows.size() && failedRows[k] ? kFailedColour : QColor(Qt::black);
+            for (int j = 0; j < columns && j < static_cast<int>(rows[k].size()); ++j) {
+                QTextCursor c = table->cellAt(i, j).firstCursorPosition();
+                QTextBlockFormat b;
+                b.setAlignment(j == 0 ? Qt::AlignLeft : Qt::AlignRight);
+                c.setBlockFormat(b);
+                c.insertText(qs(rows[k][static_cast<std::size_t>(j)]), charFormat(8.5, bold, false, colour));
+            }
+        }
+        cursor_.endEditBlock();
+        cursor_.movePosition(QTextCursor::End);
+    }
+
+    void emphasis(const std::string& label, const std::string& value)
+    {
+        block(blockFormat(3, 0, 4), charFormat(10, true));
+        cursor_.insertText(qs(label) + QStringLiteral(": "));
+        cursor_.insertText(qs(value), charFormat(10, true, false, kHeading));
+    }
+
 private:
     void meta(const char* label, const std::string& value)
     {
@@ -471,8 +413,56 @@ void compose(const report::ReportData& r, Builder& b)
 {
     b.title(r);
     int n = 0;
+    if (!r.cases.empty()) {
+        b.heading(QStringLiteral("%1. Casos de carga").arg(++n));
+        std::vector<std::vector<std::string>> rows{
+            {"Caso", "Nd", "Md", "Zona", "As,nec (cm²)", "Utilização"}};
+        std::vector<bool> governing{false}, failed{false};
+        for (const auto& c : r.cases) {
+            rows.push_back({c.name, c.nd, c.md, c.zone, c.asNec, c.utilisation});
+            governing.push_back(c.governing);
+            failed.push_back(!c.carried);
+        }
+        b.table(rows, {22, 40, 50, 16, 20, 20}, governing, failed);
+        b.emphasis("Caso determinante", r.governingCase);
+        for (const auto& note : r.casesNotes)
+            b.note(note);
+    }
     for (const auto& s : r.sections)
         b.section(++n, s);
+
+    if (r.quantities) {
+        const report::Quantities& q = *r.quantities;
+        b.heading(QStringLiteral("%1. Quantitativo de aço").arg(++n));
+        std::vector<std::vector<std::string>> rows{
+            {"Peça", "Bitola", "Quant.", "Compr. unit. (cm)", "Compr. total (m)", "kg/m", "Peso (kg)"}};
+        for (const auto& k : q.rows)
+            rows.push_back({k.piece, k.barIndex ? std::string(engine::bar(k.barIndex).label) : std::string("—"),
+                            std::to_string(k.count), Format(k.unitLength, "##0.0"), Format(k.totalLength, "##0.00"),
+                            Format(k.massPerMetre, "##0.000"), Format(k.weight, "##0.00")});
+        // The same diameter's pieces summed, for the order of the steel.
+        std::vector<std::pair<int, std::pair<double, double>>> byBar;
+        for (const auto& k : q.rows) {
+            auto it = std::find_if(byBar.begin(), byBar.end(), [&](const auto& x) { return x.first == k.barIndex; });
+            if (it == byBar.end())
+                byBar.push_back({k.barIndex, {k.totalLength, k.weight}});
+            else
+                it->second = {it->second.first + k.totalLength, it->second.second + k.weight};
+        }
+        std::vector<bool> total(rows.size(), false);
+        for (const auto& [index, sum] : byBar) {
+            rows.push_back({"Total da bitola", index ? std::string(engine::bar(index).label) : std::string("—"), "",
+                            "", Format(sum.first, "##0.00"), "", Format(sum.second, "##0.00")});
+            total.push_back(true);
+        }
+        b.table(rows, {56, 28, 14, 22, 22, 13, 18}, total);
+        b.line({"Peso total de aço", Format(q.totalWeight, "##0.00"), "kg", {}});
+        b.line({"Estribos ao longo do pilar", std::to_string(q.stirrupLevels), "", {}});
+        b.line({"Volume de concreto", Format(q.concreteVolume, "##0.000"), "m³", {}});
+        b.line({"Taxa de aço", Format(q.rate, "##0.0"), "kg/m³", {}});
+        for (const auto& a : q.assumptions)
+            b.note(a);
+    }
 
     b.heading(QStringLiteral("%1. Mensagens e verificações do cálculo").arg(++n));
     b.note("Cada mensagem e pergunta que o cálculo mostrou, na ordem, com o item da norma e a resposta dada.");
@@ -487,8 +477,12 @@ void compose(const report::ReportData& r, Builder& b)
     if (r.diagram)
         b.figure(QSizeF(mm(kDiagramWidth), mm(kDiagramHeight)),
                  [d = *r.diagram](QPainter& p, const QRectF& rect) { paintDiagram(p, rect, d); },
-                 QStringLiteral("Curva de interação N_Rd–M_Rd da seção detalhada e o ponto de cálculo: verde com "
-                                "utilização até 100 %, vermelho acima."));
+                 r.diagram->cases.size() > 1
+                     ? QStringLiteral("Curva de interação N_Rd–M_Rd da seção detalhada (N de compressão positivo) e "
+                                      "o ponto (γn·Nd, γn·Md) de cada caso: verde com utilização até 100 %, vermelho "
+                                      "acima; o caso determinante maior e circulado.")
+                     : QStringLiteral("Curva de interação N_Rd–M_Rd da seção detalhada (N de compressão positivo) e "
+                                      "o ponto de cálculo: verde com utilização até 100 %, vermelho acima."));
 
     b.heading(QStringLiteral("%1. Desenho da seção").arg(++n));
     std::string why = r.drawingMissing;
@@ -553,15 +547,21 @@ void paintPageFrame(QPainter& p, const report::ReportData& r, int page, int page
     const QRectF top(left, mm(11), right - left, mm(5));
     p.setPen(Qt::black);
     p.setFont(font(8.5, true));
-    p.drawText(top, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Memorial de cálculo: ") + qs(r.project));
+    // The column's name, where there is one, tells the pages of one column from another's.
+    const std::string& column = r.heading.column;
+    p.drawText(top, Qt::AlignLeft | Qt::AlignVCenter,
+               QStringLiteral("Memorial de cálculo: ")
+                   + qs(column.empty() ? r.project : "Pilar " + column + " (" + r.project + ")"));
     p.setFont(font(8.5));
     p.drawText(top, Qt::AlignRight | Qt::AlignVCenter,
                QStringLiteral("Pilarix %1   %2").arg(qs(r.stamp.version), qs(r.stamp.dateTime)));
     const QRectF foot(left, mm(kPageHeight - 13), right - left, mm(5));
     p.setFont(font(8));
     p.setPen(kGrey);
-    p.drawText(foot, Qt::AlignLeft | Qt::AlignVCenter,
-               QStringLiteral("NBR 6118 (Projeto de revisão da NB1 / 2001), método das zonas de solicitação"));
+    std::string footText = "NBR 6118 (Projeto de revisão da NB1 / 2001), método das zonas de solicitação";
+    if (!r.heading.work.empty())
+        footText = "Obra: " + r.heading.work + (r.heading.revision.empty() ? "" : "   Revisão: " + r.heading.revision);
+    p.drawText(foot, Qt::AlignLeft | Qt::AlignVCenter, qs(footText));
     p.setPen(Qt::black);
     p.setFont(font(8.5));
     p.drawText(foot, Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("%1 / %2").arg(page).arg(pages));

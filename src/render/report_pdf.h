@@ -7,9 +7,12 @@
 //   writeReportPdf(report, path, error)        the same from report data already built
 //   currentStamp()                             now, "dd/MM/yyyy HH:mm", and Pilarix's version
 //
-// Every page has the project's name, the date and time, "Pilarix" and its version
-// at the top and "página / páginas" at the foot. In order: the data, the design, the
-// detailing, every message of the calculation with its clause and the answer given
+// The first page opens with "Dados da obra" (work, client, column, engineer,
+// revision) where they were given. Every page has the column's name and the
+// project's, the date and time, "Pilarix" and its version at the top and "página /
+// páginas" at the foot (with the work and the revision, when given). In order: the
+// load cases with the governing one (two or more), the data, the design, the
+// detailing, the steel's quantities, every message of the calculation with its clause and the answer given
 // and the verdict ("Resultado: Ok" / "Resultado: erro", the failed checks in bold
 // red), the check by strain compatibility with the N_Rd–M_Rd diagram, the section
 // drawn to a stated scale and, after a search, its lightest solutions.
@@ -19,6 +22,7 @@
 // A failure never throws: false, and in `error` the file and the reason in Portuguese.
 // A file already at `path` is only replaced by a complete new one.
 
+#include "render/interaction_painter.h"
 #include "report/report_data.h"
 
 #include <QByteArray>
@@ -40,5 +44,9 @@ bool writeReportPdf(const report::ReportData& report, const std::string& path, s
 QByteArray reportPdf(const report::ReportData& report, std::string& error);
 
 report::ReportStamp currentStamp();
+
+// The report's interaction diagram as the one painter of the diagram takes it: the
+// same chart the window's "Diagrama de interação" paints for the same calculation.
+InteractionChart diagramChart(const report::Diagram& diagram);
 
 } // namespace pilarix::render

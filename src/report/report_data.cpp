@@ -181,19 +181,36 @@ private:
     Section& s_;
 };
 
+// Where d' came from, as it did: typed, found from the cover ("d' automático"),
+// put in by the arrangement the search chose, and what the cover correction made of
+// it. The window keeps d' as it stood before the calculation rewrote the box
+// (DLinhaDigitado, which a project file keeps as "d' digitado").
 std::string dLinhaNote(const Program& p, const engine::ColumnResult& r, const SolutionRow* fromSearch)
 {
-    const std::string automatic = withoutAccessKey(p.Form1.Check3.Caption);
     std::string note;
     if (fromSearch)
-        note = automatic + ", achado pela busca da melhor solução";
+        note = "o da solução nº " + Str(p.SolucaoAtual)
+               + " da busca da melhor solução, que o achou pelo cobrimento e o pôs na caixa d′";
     else if (p.Entrada.dLinha.automatic)
-        note = automatic;
+        note = withoutAccessKey(p.Form1.Check3.Caption) + ": achado pelo cobrimento, a partir de 3 cm";
+    else if (p.DLinhaDigitado && trimmed(*p.DLinhaDigitado).empty())
+        note = "caixa d′ vazia (0 cm)";
     else
-        note = "digitado: " + Str(p.Entrada.dLinha.typed) + " cm";
+        note = "digitado: " + (p.DLinhaDigitado ? trimmed(*p.DLinhaDigitado) : Str(p.Entrada.dLinha.typed)) + " cm";
     if (r.dLinhaText)
-        note += "; reescrito pela correção do cobrimento: " + *r.dLinhaText;
+        note += "; reescrito pela correção do cobrimento para " + trimmed(*r.dLinhaText) + " cm";
     return note;
+}
+
+// The case the column was designed for: with several, the governing one.
+const ResultadoDoCaso* governingCase(const Program& p)
+{
+    if (p.ResultadosDosCasos.size() < 2)
+        return nullptr;
+    for (const auto& c : p.ResultadosDosCasos)
+        if (c.governa)
+            return &c;
+    return nullptr;
 }
 
 void inputSection(const Program& p, const engine::ColumnResult& r, const SolutionRow* fromSearch, Section& s)
@@ -204,6 +221,13 @@ void inputSection(const Program& p, const engine::ColumnResult& r, const Solutio
     const int total =
         r.designed ? r.design.totalBars : static_cast<int>(2 * (in.barsOnWidthFace + in.barsOnDepthFace) - 4);
     const double dLinha = r.designed ? r.design.dLinha : in.dLinha.typed;
+    // The forces the design was made for, so that ν and μ follow from what is printed.
+    const ResultadoDoCaso* governing = governingCase(p);
+    const double nd = governing ? governing->Nd : in.Nd;
+    const double md = governing ? governing->Md : in.Md;
+    const std::string of = governing ? "do caso determinante \"" + governing->nome + "\", para as quais o pilar foi "
+                                                                                    "dimensionado"
+                                     : std::string();
 
     Writer w(s);
     w.line("Seção b × h", Str(in.base) + " × " + Str(in.depth), "cm")
@@ -212,20 +236,20 @@ void inputSection(const Program& p, const engine::ColumnResult& r, const Solutio
                                      + " nas faces de altura h",
               "", Str(total) + " barras ao todo")
         .line("d′ (da face ao centro da barra)", fixed(dLinha, 3), "cm", dLinhaNote(p, r, fromSearch))
-        .line("Nd", forceText(in.Nd, force, true))
-        .line("Md", momentText(in.Md, moment, true));
+        .line("Nd", forceText(nd, force, true), "", of)
+        .line("Md", momentText(md, moment, true), "", of);
     if (r.designed) {
         const double gn = r.design.gammaN;
         w.line("γn", fixed(gn, 2), "", "menor dimensão da seção " + Str(r.design.smallerSide) + " cm")
-            .line("Força normal de cálculo γn·Nd", forceText(gn * in.Nd, force))
-            .line("Momento de cálculo γn·Md", momentText(gn * in.Md, moment));
+            .line("Força normal de cálculo γn·Nd", forceText(gn * nd, force))
+            .line("Momento de cálculo γn·Md", momentText(gn * md, moment));
     }
 
     const engine::Concrete c = engine::designConcrete(in.fck, in.gammaC);
     w.line("fck do concreto", mpa(c.fck, 1), "MPa")
         .line("γc", Str(in.gammaC))
-        .line("fcd = fck / γc", mpa(c.fcd, 2), "MPa")
-        .line("σcd = 0.85 fcd", mpa(c.sigcd, 2), "MPa");
+        .line("fcd = fck / γc", mpa(c.fcd, 3), "MPa")
+        .line("σcd = 0.85 fcd", mpa(c.sigcd, 3), "MPa");
 
     const engine::Steel a = engine::designSteel(in.steel, in.gammaS, in.Es);
     w.line("Aço da armadura", std::string(engine::steelGradeText(in.steel)), "", a.classB ? "classe B" : "classe A")
@@ -336,9 +360,10 @@ std::string stirrupChoice(const Program& p, const engine::ColumnResult& r)
     switch (in.stirrupMode) {
     case engine::StirrupMode::Predefined:
         how = withoutAccessKey(f.Option3.Caption) + " " + barLabel(in.predefinedStirrup);
-        for (const auto& c : r.checks)
-            if (c.id == engine::CheckId::PredefinedStirrupTooThin)
-                how += ", abaixo do mínimo: adotado o mínimo";
+        // Told once, though every repeated pass tells it again.
+        if (std::any_of(r.checks.begin(), r.checks.end(),
+                        [](const engine::Check& c) { return c.id == engine::CheckId::PredefinedStirrupTooThin; }))
+            how += ", abaixo do mínimo: adotado o mínimo";
         break;
     case engine::StirrupMode::Economic:
         how = withoutAccessKey(f.Option5.Caption);
@@ -478,11 +503,97 @@ void verificationSection(const Program& p, ReportData& out)
         d.curve.emplace_back(n / force.factor, m / moment.factor);
     d.nSd = v.nSd / force.factor;
     d.mSd = v.mSd / moment.factor;
+    if (p.ResultadosDosCasos.empty()) {
+        d.cases.push_back({"Sd", d.nSd, d.mSd, v.utilisation, true});
+    } else {
+        // Every load case on the governing case's section, γn as the design took it.
+        const double gn = p.Resultado ? p.Resultado->design.gammaN : 1;
+        for (const auto& c : p.ResultadosDosCasos)
+            d.cases.push_back({c.nome, gn * c.Nd / force.factor, gn * c.Md / moment.factor, c.utilizacao, c.governa});
+    }
     if (v.mRd)
         d.mRd = *v.mRd / moment.factor;
     d.utilisation = v.utilisation;
     out.diagram = std::move(d);
 }
+
+// ---- the load cases ----
+
+void casesList(const Program& p, ReportData& out)
+{
+    if (p.ResultadosDosCasos.size() < 2)
+        return;
+    const Unit force = unitOf(p.Form1.Combo4.Text, "kN", kKgfPerKn);
+    const Unit moment = unitOf(p.Form1.Combo5.Text, "kN·m", kKgfCmPerKnM);
+    for (const auto& c : p.ResultadosDosCasos) {
+        CaseLine l;
+        l.name = c.nome;
+        l.nd = forceText(c.Nd, force, true);
+        l.md = momentText(c.Md, moment, true);
+        l.zone = zoneText(c.zona);
+        l.asNec = fixed(c.asNec, 2);
+        l.utilisation = std::isnan(c.utilizacao) ? std::string("não verificada")
+                        : std::isfinite(c.utilizacao) ? fixed(100 * c.utilizacao, 1) + " %"
+                                                      : std::string("sem limite");
+        l.carried = c.utilizacao <= 1;
+        l.governing = c.governa;
+        if (c.governa)
+            out.governingCase = c.nome;
+        out.cases.push_back(std::move(l));
+    }
+    out.casesNotes.push_back("Cada caso dimensionado pelo método das zonas de solicitação desde o início; o que exige "
+                             "a maior área de aço é detalhado, e a seção detalhada é verificada para todos os casos "
+                             "por compatibilidade de deformações (utilização).");
+}
+
+} // namespace
+
+// ---- the steel's quantities ----
+
+Quantities steelQuantities(const engine::ColumnInput& in, const engine::ColumnResult& r)
+{
+    Quantities q;
+    if (!r.detailed || !r.bar || !(r.stirrup.spacing > 0) || !(in.length > 0))
+        return q;
+    // The stirrup's catalogue bar by its diameter; its mass is the one the method took.
+    int stirrupIndex = 0;
+    for (const auto& b : engine::catalogue())
+        if (std::abs(b.diameter - r.stirrup.diameter) < 1e-9)
+            stirrupIndex = b.index;
+    const double stirrupMass = stirrupIndex ? engine::bar(stirrupIndex).mass : r.stirrup.massPerMetre;
+
+    const auto row = [&q](std::string piece, int index, int count, double unitLength, double mass) {
+        if (count <= 0)
+            return;
+        const double total = count * unitLength / 100;
+        q.rows.push_back({std::move(piece), index, count, unitLength, total, mass, total * mass});
+        q.totalWeight += total * mass;
+    };
+    const engine::Bar& longitudinal = engine::bar(r.bar->index);
+    row("Barras longitudinais", longitudinal.index, r.design.totalBars, in.length, longitudinal.mass);
+    // One at each end and one every spacing between; a ratio a hair over a whole number
+    // by rounding is that number.
+    q.stirrupLevels = static_cast<int>(std::ceil(in.length / r.stirrup.spacing - 1e-9)) + 1;
+    row("Estribos", stirrupIndex, q.stirrupLevels, r.cover.stirrupLength, stirrupMass);
+    // A tie of the width faces runs across h, one of the depth faces across b.
+    row("Estribos suplementares das faces b", stirrupIndex, q.stirrupLevels * r.tiesAcrossWidth,
+        r.cover.stirrupInnerDepth + r.stirrup.tieHookAllowance, stirrupMass);
+    row("Estribos suplementares das faces h", stirrupIndex, q.stirrupLevels * r.tiesAcrossDepth,
+        r.cover.stirrupInnerWidth + r.stirrup.tieHookAllowance, stirrupMass);
+    q.concreteVolume = in.base * in.depth * in.length / 1e6;
+    q.rate = q.concreteVolume > 0 ? q.totalWeight / q.concreteVolume : 0;
+    q.assumptions = {
+        "Barras longitudinais com o comprimento do pilar, sem emendas, ancoragens nem esperas.",
+        "Estribos ao longo de todo o comprimento: comprimento / espaçamento, arredondado para cima, mais um.",
+        "Comprimento do estribo: o do cálculo, 2·(b + h − 4·cobrimento efetivo) mais os dois ganchos.",
+        "Estribo suplementar: a dimensão interna do estribo que ele atravessa mais os seus dois ganchos, em "
+        "cada nível de estribos.",
+        "Massas por metro das tabelas de bitolas comerciais; volume de concreto b·h·comprimento.",
+    };
+    return q;
+}
+
+namespace {
 
 void solutionsList(const Program& p, const SolutionRow* shown, ReportData& out)
 {
@@ -526,6 +637,7 @@ bool buildReport(const Program& p, const ReportStamp& stamp, ReportData& out, st
     }
     ReportData r;
     r.project = projectName(p.NomeArquivo);
+    r.heading = {p.Obra.obra, p.Obra.cliente, p.Obra.pilar, p.Obra.engenheiro, p.Obra.revisao};
     r.stamp = stamp;
     r.verdict = verdict;
     r.sections = {{"Dados", {}, {}}, {"Dimensionamento: método das zonas de solicitação", {}, {}},
@@ -536,6 +648,10 @@ bool buildReport(const Program& p, const ReportStamp& stamp, ReportData& out, st
         designSection(p, *p.Resultado, r.sections[1]);
         detailSection(p, *p.Resultado, r.sections[2]);
         solutionsList(p, shown, r);
+        casesList(p, r);
+        r.quantities = steelQuantities(p.Entrada, *p.Resultado);
+        if (r.quantities->rows.empty())
+            r.quantities.reset();
     } else {
         // The calculation stopped while reading the window (or a search found nothing):
         // there is only what the boxes hold and the messages.

@@ -1,8 +1,8 @@
 #pragma once
 // The calculation report ("memorial de cálculo") of the window's last calculation,
 // as plain data, before any page is laid out: titled sections of lines "label: value
-// unit", every message of the calculation in order with its clause and the answer
-// given, the verdict of the "Erros" box, the interaction diagram in the engineer's
+// unit", the load cases with the governing one, the steel's quantities, every message
+// of the calculation in order with its clause and the answer given, the verdict of the "Erros" box, the interaction diagram in the engineer's
 // units, the section's drawing and, after a search, its lightest solutions.
 //
 //   buildReport(program, stamp, report, error)   false, with the reason, when the
@@ -12,6 +12,7 @@
 // reports of the same project differ in nothing else. No Qt here: the PDF is
 // render/report_pdf.h's.
 
+#include "engine/column.h"
 #include "engine/geometry.h"
 
 #include <optional>
@@ -61,12 +62,21 @@ struct Message {
     bool failed = false;
 };
 
+// A load case's point on the diagram: γn·Nd and γn·Md in the chart's units.
+struct DiagramCase {
+    std::string name;
+    double nSd = 0, mSd = 0;
+    double utilisation = 0; // on the detailed section; NaN where it could not be verified
+    bool governing = false;
+};
+
 // The N_Rd–M_Rd curve of the detailed section and the design point, in the units of
 // the window's force and moment lists (N across, compression positive; M up).
 struct Diagram {
     std::string forceUnit, momentUnit; // as the lists spell them: "KN", "KN.cm"
     std::vector<std::pair<double, double>> curve; // (N, M), closed
-    double nSd = 0, mSd = 0;
+    double nSd = 0, mSd = 0;   // the governing case's
+    std::vector<DiagramCase> cases; // every case; one named "Sd" for a single column
     std::optional<double> mRd; // at nSd
     double utilisation = 0;    // a fraction; +∞ when no multiple of the point is carried
     bool withinCurve() const { return utilisation <= 1; }
@@ -79,9 +89,57 @@ struct SolutionLine {
     bool shown = false; // the arrangement this report is of
 };
 
+// The work, client, column, engineer and revision of "Dados da obra", as typed.
+struct Heading {
+    std::string work, client, column, engineer, revision;
+    bool empty() const { return work.empty() && client.empty() && column.empty() && engineer.empty() && revision.empty(); }
+};
+
+// A load case of a column with several, as the report lists it.
+struct CaseLine {
+    std::string name;
+    std::string nd, md;        // as typed, in the window's units and in kN / kN·m
+    std::string zone, asNec;   // of its own design by zones ("2 (C)", "6.55")
+    std::string utilisation;   // on the detailed section: "87.4 %"
+    bool carried = true;
+    bool governing = false;
+};
+
+// The steel of the column, for the order and the budget: one row per kind of piece.
+struct QuantityRow {
+    std::string piece;    // "Barras longitudinais", "Estribos", ...
+    int barIndex = 0;     // catalogue index of its diameter
+    int count = 0;
+    double unitLength = 0;   // cm, hooks included
+    double totalLength = 0;  // m
+    double massPerMetre = 0; // kg/m, the catalogue's
+    double weight = 0;       // kg
+};
+
+struct Quantities {
+    std::vector<QuantityRow> rows;
+    int stirrupLevels = 0;      // stirrups along the column
+    double totalWeight = 0;     // kg
+    double concreteVolume = 0;  // m³
+    double rate = 0;            // kg of steel per m³ of concrete
+    std::vector<std::string> assumptions; // one line each
+};
+
+// The quantities of a detailed column: the longitudinal bars over the column's
+// length, a stirrup every spacing from one end to the other (length / spacing,
+// rounded up, plus one) at the calculation's stirrup length with its hooks, and the
+// supplementary stirrups of each level at the stirrup's inner dimension plus their
+// two hooks. Empty rows for a column not detailed.
+Quantities steelQuantities(const engine::ColumnInput& input, const engine::ColumnResult& result);
+
 struct ReportData {
     std::string project; // the project file's name, or "sem título"
+    Heading heading;
     ReportStamp stamp;
+    std::vector<CaseLine> cases;   // two or more, or none
+    std::string governingCase;     // its name, with two or more
+    std::vector<std::string> casesNotes;
+    std::optional<Quantities> quantities;
     std::vector<Section> sections; // "Dados", "Dimensionamento", "Detalhamento"
     std::vector<Message> messages;
     std::string verdict; // the "Erros" box: "Ok" or "erro"

@@ -1,9 +1,11 @@
 #include "ui/arguments.h"
 
+#include <algorithm>
+
 namespace pilarix::ui {
 
 const char* const kUsoDaJanela = "uso: pilarix [PROJETO] | pilarix --screenshot ARQUIVO.png [PROJETO] "
-                                 "[--tela LARGURAxALTURA]";
+                                 "[--tela LARGURAxALTURA] [--dialogo diagrama|casos]";
 
 Argumentos leArgumentos(const QStringList& args)
 {
@@ -16,7 +18,14 @@ Argumentos leArgumentos(const QStringList& args)
                 a.tela = QSize(lados[0].toInt(), lados[1].toInt());
             resto.remove(i, 2);
         }
-        if (resto.isEmpty() || resto.size() > 2 || (args.contains(QStringLiteral("--tela")) && !a.tela.isValid())) {
+        bool dialogoValido = true;
+        if (const auto i = resto.indexOf(QStringLiteral("--dialogo")); i >= 0) {
+            a.dialogo = i + 1 < resto.size() ? resto.at(i + 1) : QString();
+            dialogoValido = a.dialogo == QStringLiteral("diagrama") || a.dialogo == QStringLiteral("casos");
+            resto.remove(i, std::min<qsizetype>(2, resto.size() - i));
+        }
+        if (resto.isEmpty() || resto.size() > 2 || (args.contains(QStringLiteral("--tela")) && !a.tela.isValid())
+            || !dialogoValido) {
             a.valido = false;
             return a;
         }

@@ -1,7 +1,7 @@
 #pragma once
 // What "pilarix" is asked for on its command line:
 //   pilarix [PROJETO]
-//   pilarix --screenshot ARQUIVO.png [PROJETO] [--tela LARGURAxALTURA]
+//   pilarix --screenshot ARQUIVO.png [PROJETO] [--tela LARGURAxALTURA] [--dialogo diagrama|casos]
 
 #include <QSize>
 #include <QString>
@@ -13,6 +13,7 @@ struct Argumentos {
     QString projeto; // the project to open (or to picture); empty for none
     QString imagem;  // --screenshot: a picture of the window instead of the window
     QSize tela;      // --tela: the screen the picture fills
+    QString dialogo; // --dialogo: a picture of that dialog, opened from its menu, instead of the window
     bool valido = true;
 };
 

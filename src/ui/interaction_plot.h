@@ -1,20 +1,21 @@
 #pragma once
-// The N–M interaction diagram of the detailed column: the curve of what the section
-// carries (M across, N up, compression positive), the design point(s) green when
-// carried and red when not, the ray from the origin through each governing point to
-// where it leaves the curve (its length against the point's is the utilisation), and
-// M_Rd at the governing axial force.
+// The N–M interaction diagram of the detailed column in the window, painted by the
+// one painter of the diagram (render/interaction_painter.h), which the report's PDF
+// uses too: the curve, every load case's point green when carried and red when not,
+// the ray of the governing point and M_Rd at its axial force, each text where it
+// overlaps nothing.
 //
-// It takes plain numbers already in the units the engineer chose for Nd and Md. The
-// two axes have their own scales, each fitted to the curve with round-number ticks,
-// so that a curve tall in N and narrow in M still uses the frame. With nothing that
-// can be drawn (no curve, fewer than three finite points, an infinite span) it shows a
-// line of text in its place.
+// It takes plain numbers already in the units the engineer chose for Nd and Md. With
+// nothing that can be drawn (no curve, fewer than three finite points, an infinite
+// span) it shows a line of text in its place.
+
+#include "render/interaction_painter.h"
 
 #include <QColor>
 #include <QPointF>
 #include <QRectF>
 #include <QString>
+#include <QSize>
 #include <QWidget>
 
 #include <optional>
@@ -52,6 +53,10 @@ QColor utilisationColour(double utilisation);
 // reads "> 100.0 %"), +∞ reads "∞", one not known "—".
 QString utilisationText(double utilisation);
 
+// The diagram of `data` as the one painter of the diagram (render/interaction_painter.h)
+// takes it: the report's PDF draws the same chart the same way.
+render::InteractionChart chartOf(const DiagramData& data);
+
 class InteractionPlot : public QWidget {
     Q_OBJECT
 public:
@@ -61,7 +66,7 @@ public:
     void clear();
     const DiagramData& data() const { return data_; }
     // Whether the curve is drawn (false: the placeholder text is shown instead).
-    bool hasCurve() const { return drawable_; }
+    bool hasCurve() const { return layout().drawable; }
 
     // The text shown without data; shownMessage() is the text shown in place of the
     // diagram just now (empty while the diagram is drawn).
@@ -69,13 +74,16 @@ public:
     QString placeholderText() const { return placeholder_; }
     QString shownMessage() const;
 
+    // Where everything is drawn for the present size and data: the painter's layout.
+    const render::ChartLayout& layout() const;
+    render::ChartStyle style() const { return {font(), 1}; }
     // Where (M, N) lands in widget pixels, for the present size and data.
-    QPointF toScreen(double m, double n) const;
+    QPointF toScreen(double m, double n) const { return layout().toScreen(m, n); }
     // The rectangle of the axes' ranges, in widget pixels.
-    QRectF plotArea() const { return frame().area; }
+    QRectF plotArea() const { return layout().area; }
     // The round numbers labelled on each axis, in the data's units.
-    std::vector<double> momentTicks() const { return frame().mTicks; }
-    std::vector<double> forceTicks() const { return frame().nTicks; }
+    std::vector<double> momentTicks() const { return layout().mTicks; }
+    std::vector<double> forceTicks() const { return layout().nTicks; }
     // "M (KN.cm)" and "N (KN)"; the letter alone without a unit.
     QString momentTitle() const;
     QString forceTitle() const;
@@ -87,23 +95,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    struct Frame {
-        QRectF area;                  // the plot, inside the margins
-        double mLo = -1, mHi = 1, nLo = -1, nHi = 1;
-        double mStep = 1, nStep = 1;
-        std::vector<double> mTicks, nTicks;
-    };
-    Frame frame() const;
-    QPointF map(const Frame& f, double m, double n) const;
-    void paintAxes(QPainter& p, const Frame& f) const;
-    void paintCurve(QPainter& p, const Frame& f) const;
-    void paintPoints(QPainter& p, const Frame& f) const;
-
     DiagramData data_;
-    std::vector<QPointF> finiteCurve_; // the curve without its non-finite points
-    // The extents of what is drawn (curve, points, origin), in the data's units.
-    double mMin_ = 0, mMax_ = 0, nMin_ = 0, nMax_ = 0;
-    bool drawable_ = false;
+    render::InteractionChart chart_;
+    mutable std::optional<render::ChartLayout> layout_; // for layoutSize_
+    mutable QSize layoutSize_;
     QString placeholder_;
 };
 

@@ -33,7 +33,7 @@ int main(int argc, char* argv[])
         return 2;
     }
     if (!args.imagem.isEmpty())
-        return pilarix::ui::salvaImagemDaJanela(args.imagem, args.projeto, args.tela);
+        return pilarix::ui::salvaImagemDaJanela(args.imagem, args.projeto, args.tela, args.dialogo);
     pilarix::ui::MainWindow janela;
     janela.inicia();
     janela.show();

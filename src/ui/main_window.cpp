@@ -13,6 +13,7 @@
 #include "ui/input_tips.h"
 #include "ui/interaction_dialog.h"
 #include "ui/other_values_dialog.h"
+#include "ui/project_data_dialog.h"
 #include "ui/qt_dialogs.h"
 #include "ui/section_canvas.h"
 #include "ui/solutions_dialog.h"
@@ -382,6 +383,12 @@ void MainWindow::montaMenus()
                             [this] { this->arquivo(&Program::mnuItemSaveDefault_Click); }));
     arquivo->addAction(
         acao(QStringLiteral("&Exportar desenho..."), QStringLiteral("mnuItemExportar"), [this] { exportaDesenho(); }));
+    arquivo->addAction(acao(QStringLiteral("Dados da o&bra..."), QStringLiteral("mnuItemDadosDaObra"), [this] {
+        if (editProjectData(program_->Obra, this)) { // an edit of the project, undone as any other
+            registraEdicao(QStringLiteral("dados da obra"), false);
+            atualizaTitulo();
+        }
+    }));
     auto* imprimir = acao(QStringLiteral("&Memorial de cálculo (PDF)..."), QStringLiteral("mnuItemMemorial"),
                           [this] { imprimeMemorial(); });
     imprimir->setShortcut(QKeySequence::Print);

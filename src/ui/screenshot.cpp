@@ -1,8 +1,11 @@
 #include "ui/screenshot.h"
 
+#include "ui/cases_dialog.h"
+#include "ui/interaction_dialog.h"
 #include "ui/main_window.h"
 #include "window/policy_dialogs.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QPixmap>
 
@@ -25,7 +28,7 @@ void contaOsDialogos(const PolicyDialogs& d)
 }
 } // namespace
 
-int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto, QSize tela)
+int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto, QSize tela, const QString& dialogo)
 {
     // Every question gets its first answer; nothing waits for a user.
     PolicyDialogs respostas;
@@ -55,7 +58,29 @@ int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto, QSize
     }
     janela.show();
     QApplication::processEvents();
-    const QPixmap imagem = janela.grab();
+    QWidget* retratado = &janela;
+    if (!dialogo.isEmpty()) {
+        // The menu's own action, so that the dialog shows what a user would see.
+        const QString acao = dialogo == QStringLiteral("casos") ? QStringLiteral("mnuItemCasos")
+                                                                : QStringLiteral("mnuItemDiagrama");
+        QAction* a = janela.findChild<QAction*>(acao);
+        if (!a) {
+            std::cerr << "pilarix: o menu não tem " << acao.toStdString() << "\n";
+            return 1;
+        }
+        a->trigger();
+        QApplication::processEvents();
+        if (dialogo == QStringLiteral("casos"))
+            retratado = janela.findChild<CasesDialog*>();
+        else
+            retratado = janela.findChild<InteractionDialog*>();
+        if (!retratado) {
+            std::cerr << "pilarix: o diálogo " << dialogo.toStdString() << " não abriu\n";
+            return 1;
+        }
+        QApplication::processEvents();
+    }
+    const QPixmap imagem = retratado->grab();
     if (!imagem.save(arquivoPng, "PNG")) {
         std::cerr << "pilarix: não foi possível gravar " << arquivoPng.toStdString() << "\n";
         return 1;

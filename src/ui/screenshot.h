@@ -1,6 +1,6 @@
 #pragma once
 // "--screenshot": start as a user would, load the defaults (or a project),
-// calculate, and save a picture of the whole window. The questions of the
+// calculate, and save a picture of the whole window or of one of its dialogs. The questions of the
 // calculation get the first answer, and its messages go to standard error.
 
 #include <QSize>
@@ -13,6 +13,9 @@ namespace pilarix::ui {
 // 1366 x 768) the window fills that screen, at the scaling the platform is given
 // (QT_SCALE_FACTOR); without it the window has the size it opens at on the
 // platform's screen.
-int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto, QSize tela = {});
+// With `dialogo` ("diagrama", "casos") the dialog is opened from its menu, as a user
+// opens it, and the picture is of that dialog alone.
+int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto, QSize tela = {},
+                        const QString& dialogo = {});
 
 } // namespace pilarix::ui

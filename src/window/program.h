@@ -74,6 +74,12 @@ struct CasoDeCarga {
     std::string mdBase, myTopo, myBase;
 };
 
+// The work a column belongs to, printed at the head of the calculation report and
+// saved with the project after the 39 records ("Obra;...", files/project_file.cpp).
+struct DadosDaObra {
+    std::string obra, cliente, pilar, engenheiro, revisao;
+};
+
 // What the calculation of several load cases found for each.
 struct ResultadoDoCaso {
     std::string nome;
@@ -206,6 +212,7 @@ public:
     std::vector<engine::LoadCase> casosDeCarga();
 
     // ---- project files (files/project_file.cpp) ----
+    DadosDaObra Obra; // "Arquivo > Dados da obra..."
     std::string NomeArquivo;
     std::string ErroArquivo; // why the last file could not be read or written; empty when it could
     void Grava32();

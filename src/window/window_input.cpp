@@ -179,6 +179,12 @@ const std::vector<Entrada>& entradas()
         // Every load case is calculated and verified, and the search keeps only the
         // arrangements that carry them all.
         t.push_back({"Casos", P | R | B, casos, poeCasos});
+        // The work, the client, the column's name, the engineer and the revision: the project's, not the result's.
+        t.push_back(campo("Obra", P, [](Program& p) -> std::string& { return p.Obra.obra; }));
+        t.push_back(campo("Cliente", P, [](Program& p) -> std::string& { return p.Obra.cliente; }));
+        t.push_back(campo("Pilar", P, [](Program& p) -> std::string& { return p.Obra.pilar; }));
+        t.push_back(campo("Engenheiro", P, [](Program& p) -> std::string& { return p.Obra.engenheiro; }));
+        t.push_back(campo("Revisao", P, [](Program& p) -> std::string& { return p.Obra.revisao; }));
         return t;
     }();
     return tabela;

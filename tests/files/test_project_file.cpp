@@ -279,3 +279,53 @@ TEST(ProjectFile, StartCreatesTheDefaultsFileOnlyWhenMissing)
     EXPECT_EQ(second.p.Form1.Text30.Text, "Ok");
     fs::current_path(home);
 }
+
+TEST(ProjectFile, TheHeadingOfTheWorkFollowsTheRecordsEncodedAndComesBack)
+{
+    struct Row {
+        const char* name;
+        DadosDaObra obra;
+        const char* after39; // what follows the 39 records
+    };
+    const Row rows[] = {
+        {"none: the file as before", {}, ""},
+        {"every field", {"Edifício Aurora", "Construtora X", "P12", "Ana Lima", "R1"},
+         "Obra;Edifício Aurora\r\nCliente;Construtora X\r\nPilar;P12\r\nEngenheiro;Ana Lima\r\nRevisão;R1\r\n"},
+        {"only the column", {"", "", "P3A", "", ""}, "Pilar;P3A\r\n"},
+        // What the record's reader would split or trim is %-encoded, as case names are.
+        {"separators and blanks", {"Bloco A; torre 2", "", "P1, P2", "", " R 2 "},
+         "Obra;Bloco A%3B torre 2\r\nPilar;P1%2C P2\r\nRevisão;%20R 2%20\r\n"},
+        {"a percent sign", {"100% concreto", "", "", "", ""}, "Obra;100%25 concreto\r\n"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        TempDir dir;
+        Fixture f;
+        f.p.Obra = row.obra;
+        f.p.NomeArquivo = dir.file("obra.txt");
+        f.p.Grava32();
+        ASSERT_EQ(f.p.ErroArquivo, "");
+        const std::string bytes = readBytes(f.p.NomeArquivo);
+        EXPECT_EQ(bytes.substr(0, golden().size()), golden());
+        EXPECT_EQ(bytes.substr(golden().size()), row.after39);
+
+        Fixture g;
+        g.p.Obra = {"antes", "antes", "antes", "antes", "antes"}; // a project before leaves nothing behind
+        g.p.NomeArquivo = f.p.NomeArquivo;
+        g.p.Carrega33();
+        ASSERT_EQ(g.p.ErroArquivo, "");
+        EXPECT_EQ(g.p.Obra.obra, row.obra.obra);
+        EXPECT_EQ(g.p.Obra.cliente, row.obra.cliente);
+        EXPECT_EQ(g.p.Obra.pilar, row.obra.pilar);
+        EXPECT_EQ(g.p.Obra.engenheiro, row.obra.engenheiro);
+        EXPECT_EQ(g.p.Obra.revisao, row.obra.revisao);
+    }
+
+    // A broken record is told and loads nothing.
+    TempDir dir;
+    Fixture h;
+    h.p.NomeArquivo = dir.file("quebrado.txt");
+    writeBytes(h.p.NomeArquivo, golden() + "Obra;50%\r\n");
+    h.p.Carrega33();
+    EXPECT_NE(h.p.ErroArquivo.find("Obra se grava como Obra;TEXTO"), std::string::npos) << h.p.ErroArquivo;
+}

@@ -2,6 +2,7 @@
 // the run is there in order with its answer, a failed run says what failed, and a
 // report with nothing to report is refused.
 
+#include "base/number_text.h"
 #include "cli/controls_by_name.h"
 #include "report/report_data.h"
 #include "window/policy_dialogs.h"
@@ -99,7 +100,7 @@ TEST(ReportData, DefaultColumnReadsAsTheWindow)
         {kData, "Seção b × h", "20 × 50 cm"},
         {kData, "Nd", "400 KN (400.0 kN)"},
         {kData, "Md", "10000 KN.cm (100.00 kN·m)"},
-        {kData, "fcd", "13.33 MPa"},
+        {kData, "fcd", "13.333 MPa"},
         {kData, "fyd", "434.78 MPa"},
         {kData, "εyd", "2.070 ‰"},
         {kDesign, "Zona de solicitação", "2 (C)"},
@@ -120,7 +121,7 @@ TEST(ReportData, DefaultColumnReadsAsTheWindow)
         EXPECT_EQ(l.value + (l.unit.empty() ? "" : " " + l.unit), row.value) << row.label;
     }
     // d' was typed (the box is empty) and the cover correction rewrote it.
-    EXPECT_TRUE(contains(line(r, kData, "d′").note, "reescrito pela correção do cobrimento: " + f.Text3.Text));
+    EXPECT_TRUE(contains(line(r, kData, "d′").note, "caixa d′ vazia (0 cm); reescrito pela correção do cobrimento para " + f.Text3.Text + " cm"));
     EXPECT_TRUE(contains(line(r, kDesign, "As,nec").note, "As,compat = 6.57 cm²"));
 
     // Every dialog of the run, in order, with the answer given.
@@ -276,7 +277,7 @@ TEST(ReportData, SearchListsItsLightestSolutionsWhileTheyAreTheWindows)
         }
     }
     EXPECT_EQ(r.solutions.front().weight, p.Form1.Text19.Text);
-    EXPECT_TRUE(contains(line(r, kData, "d′").note, "achado pela busca")) << line(r, kData, "d′").note;
+    EXPECT_TRUE(contains(line(r, kData, "d′").note, "solução nº 1 da busca da melhor solução")) << line(r, kData, "d′").note;
 
     // One more bar on the depth faces is another arrangement: the list is not its own.
     p.Command4_Click();
@@ -321,4 +322,169 @@ TEST(ReportData, CaptionsLoseOnlyTheirAccessKeyMark)
     };
     for (const auto& [caption, shown] : cases)
         EXPECT_EQ(report::withoutAccessKey(caption), shown);
+}
+
+namespace {
+
+// A program with load cases, calculated as "&Calcula" does.
+struct Cases {
+    Cases(const std::string& first, const std::vector<CasoDeCarga>& others, const Sets& sets = {})
+    {
+        for (const auto& [name, value] : sets) {
+            std::string error;
+            EXPECT_TRUE(setControlByName(program, name, value, error)) << name << ": " << error;
+        }
+        program.NomeDoCaso1 = first;
+        program.OutrosCasos = others;
+        program.Command1_Click();
+    }
+    report::ReportData report() const
+    {
+        report::ReportData r;
+        std::string error;
+        EXPECT_TRUE(report::buildReport(program, kStamp, r, error)) << error;
+        return r;
+    }
+    PolicyDialogs dialogs;
+    Program program{dialogs};
+};
+
+double number(const std::string& text) { return std::stod(text); }
+
+} // namespace
+
+TEST(ReportData, TwoCasesNameTheGoverningOneAndTheDataAreItsForces)
+{
+    struct Row {
+        const char* name;
+        Sets sets;
+        std::vector<CasoDeCarga> others;
+        const char* governing;
+        std::string nd, md; // the governing case's, as the data print them
+    };
+    const std::vector<Row> rows{
+        {"the second governs", {{"Text16", "400"}, {"Text17", "10000"}}, {{"vento", "600", "20000"}}, "vento",
+         "600 KN (600.0 kN)", "20000 KN.cm (200.00 kN·m)"},
+        {"the first governs", {{"Text16", "600"}, {"Text17", "20000"}}, {{"vento", "400", "10000"}}, "topo",
+         "600 KN (600.0 kN)", "20000 KN.cm (200.00 kN·m)"},
+        {"in Tf and Tf.m",
+         {{"Combo4", "Tf"}, {"Text16", "40"}, {"Combo5", "Tf.m"}, {"Text17", "10"}},
+         {{"vento", "50", "15"}, {"sismo", "20", "5"}},
+         "vento",
+         "50 Tf (500.0 kN)",
+         "15 Tf.m (150.00 kN·m)"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const Cases c("topo", row.others, row.sets);
+        const report::ReportData r = c.report();
+        ASSERT_EQ(r.cases.size(), row.others.size() + 1);
+        EXPECT_EQ(r.governingCase, row.governing);
+        int governing = 0;
+        for (std::size_t i = 0; i < r.cases.size(); ++i) {
+            const auto& k = c.program.ResultadosDosCasos[i];
+            EXPECT_EQ(r.cases[i].name, k.nome);
+            EXPECT_EQ(r.cases[i].governing, k.governa);
+            EXPECT_EQ(r.cases[i].asNec, Format(k.asNec, "##0.00"));
+            governing += r.cases[i].governing;
+        }
+        EXPECT_EQ(governing, 1);
+        EXPECT_EQ(line(r, kData, "Nd").value, row.nd);
+        EXPECT_EQ(line(r, kData, "Md").value, row.md);
+        EXPECT_TRUE(contains(line(r, kData, "Nd").note, std::string("caso determinante \"") + row.governing));
+        // ν and μ follow from the forces printed: ν = γn·Nd/(b·h·σcd), μ = γn·Md/(b·h²·σcd),
+        // with b, h in cm, σcd in MPa (1 kN/cm² = 10 MPa) and the forces' kN figures.
+        const auto kn = [](const std::string& v) { return number(v.substr(v.find('(') + 1)); };
+        const double b = 20, h = 50, sigcd = number(line(r, kData, "σcd").value) / 10;
+        const double gn = number(line(r, kData, "γn").value);
+        EXPECT_NEAR(number(line(r, kDesign, "ν").value), gn * kn(line(r, kData, "Força normal de cálculo").value)
+                                                            / (b * h * sigcd), 1e-4);
+        EXPECT_NEAR(number(line(r, kDesign, "μ").value),
+                    gn * 100 * kn(line(r, kData, "Momento de cálculo").value) / (b * h * h * sigcd), 1e-4);
+        // Every case on the diagram, the governing one flagged.
+        ASSERT_TRUE(r.diagram);
+        ASSERT_EQ(r.diagram->cases.size(), r.cases.size());
+        for (std::size_t i = 0; i < r.cases.size(); ++i)
+            EXPECT_EQ(r.diagram->cases[i].governing, r.cases[i].governing);
+    }
+    // One case lists none, and its one point is "Sd".
+    const report::ReportData one = Column().report();
+    EXPECT_TRUE(one.cases.empty());
+    ASSERT_TRUE(one.diagram);
+    ASSERT_EQ(one.diagram->cases.size(), 1u);
+    EXPECT_EQ(one.diagram->cases[0].name, "Sd");
+}
+
+TEST(ReportData, QuantitiesOfTheDefaultColumnAsCountedByHand)
+{
+    // The defaults: 20 × 50 cm, 300 cm long, 8 φ12.5 (1.000 kg/m), stirrup φ5 c/15
+    // (0.160 kg/m) of 2·(14 + 44) + 10 = 126 cm with its 45° hooks, cover 3 cm, and two
+    // supplementary stirrups per level across b: 14 + 10 = 24 cm. By hand:
+    //   bars        8 × 3.00 m = 24.00 m × 1.000 = 24.000 kg
+    //   stirrups    300 / 15 = 20, + 1 = 21 × 1.26 m = 26.46 m × 0.160 = 4.2336 kg
+    //   ties        21 × 2 = 42 × 0.24 m = 10.08 m × 0.160 = 1.6128 kg
+    //   total 29.8464 kg over 0.20 × 0.50 × 3.00 = 0.300 m³: 99.488 kg/m³
+    const Column c;
+    const report::ReportData r = c.report();
+    ASSERT_TRUE(r.quantities);
+    const report::Quantities& q = *r.quantities;
+    struct Row {
+        const char* piece;
+        int barIndex, count;
+        double unitLength, totalLength, weight;
+    };
+    const std::vector<Row> rows{
+        {"Barras longitudinais", 5, 8, 300, 24.00, 24.000},
+        {"Estribos", 1, 21, 126, 26.46, 4.2336},
+        {"Estribos suplementares das faces h", 1, 42, 24, 10.08, 1.6128},
+    };
+    ASSERT_EQ(q.rows.size(), rows.size());
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        SCOPED_TRACE(rows[i].piece);
+        EXPECT_EQ(q.rows[i].piece, rows[i].piece);
+        EXPECT_EQ(q.rows[i].barIndex, rows[i].barIndex);
+        EXPECT_EQ(q.rows[i].count, rows[i].count);
+        EXPECT_NEAR(q.rows[i].unitLength, rows[i].unitLength, 1e-9);
+        EXPECT_NEAR(q.rows[i].totalLength, rows[i].totalLength, 1e-9);
+        EXPECT_NEAR(q.rows[i].weight, rows[i].weight, 1e-9);
+    }
+    EXPECT_EQ(q.stirrupLevels, 21);
+    EXPECT_NEAR(q.totalWeight, 29.8464, 1e-9);
+    EXPECT_NEAR(q.concreteVolume, 0.3, 1e-12);
+    EXPECT_NEAR(q.rate, 99.488, 1e-9);
+    EXPECT_EQ(q.assumptions.size(), 5u);
+
+    // A length not a whole number of spacings rounds up: 310 / 15 = 20.7, 21 + 1 stirrups.
+    const report::ReportData longer = Column(Sets{{"Text23", "310"}}).report();
+    ASSERT_TRUE(longer.quantities);
+    EXPECT_EQ(longer.quantities->stirrupLevels, 22);
+    // A column not detailed has no quantities.
+    EXPECT_FALSE(Column(Sets{{"Text1", "15"}, {"Text2", "90"}}).report().quantities);
+}
+
+TEST(ReportData, DLinhaSaysWhereItCameFrom)
+{
+    struct Row {
+        const char* name;
+        Sets sets;
+        const char* note; // the start of what the report says
+        bool rewritten;
+    };
+    const std::vector<Row> rows{
+        {"empty box, corrected", {}, "caixa d′ vazia (0 cm); reescrito pela correção do cobrimento para ", true},
+        {"typed and kept", {{"Text3", "4.2"}}, "digitado: 4.2 cm", false},
+        {"typed, then corrected", {{"Text3", "3.5"}}, "digitado: 3.5 cm; reescrito pela correção do cobrimento para ",
+         true},
+        {"from the cover", {{"Check3", "1"}}, "d' automático f(cobrimento): achado pelo cobrimento, a partir de 3 cm",
+         true},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const Column c(row.sets);
+        const std::string note = line(c.report(), kData, "d′").note;
+        EXPECT_EQ(note.rfind(row.note, 0), 0u) << note;
+        EXPECT_EQ(contains(note, "reescrito pela correção do cobrimento para " + c.program.Form1.Text3.Text + " cm"),
+                  row.rewritten)
+            << note;
+    }
 }

@@ -40,6 +40,14 @@ TEST(UiArguments, ScreenshotKeepsItsPictureProjectAndScreen)
     ASSERT_TRUE(b.valido);
     EXPECT_EQ(b.projeto, QStringLiteral("projeto.txt"));
     EXPECT_EQ(b.tela, QSize(800, 600));
+    // --dialogo: a picture of one of the two dialogs a calculation fills.
+    for (const char* dialogo : {"diagrama", "casos"}) {
+        const auto d = leArgumentos({QStringLiteral("--screenshot"), QStringLiteral("d.png"), QStringLiteral("--dialogo"),
+                                     QString::fromLatin1(dialogo), QStringLiteral("projeto.txt")});
+        ASSERT_TRUE(d.valido) << dialogo;
+        EXPECT_EQ(d.dialogo, QString::fromLatin1(dialogo));
+        EXPECT_EQ(d.projeto, QStringLiteral("projeto.txt"));
+    }
     const auto c = leArgumentos({QStringLiteral("--screenshot"), QStringLiteral("janela.png")});
     ASSERT_TRUE(c.valido);
     EXPECT_TRUE(c.projeto.isEmpty());
@@ -56,6 +64,8 @@ TEST(UiArguments, WhatTheWindowCannotDoIsRefused)
         {QStringLiteral("--screenshot"), QStringLiteral("a.png"), QStringLiteral("p.txt"), QStringLiteral("q.txt")},
         {QStringLiteral("--screenshot"), QStringLiteral("a.png"), QStringLiteral("--tela"), QStringLiteral("grande")},
         {QStringLiteral("--screenshot"), QStringLiteral("a.png"), QStringLiteral("--tela")},
+        {QStringLiteral("--screenshot"), QStringLiteral("a.png"), QStringLiteral("--dialogo"), QStringLiteral("sobre")},
+        {QStringLiteral("--screenshot"), QStringLiteral("a.png"), QStringLiteral("--dialogo")},
     };
     for (const auto& args : recusados)
         EXPECT_FALSE(leArgumentos(args).valido) << args.join(QLatin1Char(' ')).toStdString();

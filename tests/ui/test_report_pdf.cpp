@@ -118,9 +118,9 @@ TEST(ReportPdf, DefaultColumnHasEveryNumberAndEveryMessageInOrder)
         "Data e hora: " + kStamp.dateTime,
         "Programa: Pilarix " + kStamp.version,
         "Seção b × h: 20 × 50 cm",
-        "reescrito pela correção do cobrimento: " + f.Text3.Text,
+        "caixa d′ vazia (0 cm); reescrito pela correção do cobrimento para " + f.Text3.Text + " cm",
         "Nd: 400 KN (400.0 kN) Md: 10000 KN.cm (100.00 kN·m)",
-        "σcd = 0.85 fcd: 11.33 MPa",
+        "σcd = 0.85 fcd: 11.333 MPa",
         "Aço da armadura: Aço CA-50A",
         "Zona de solicitação: 2 (C)",
         "βx = x / h: " + f.Text28.Text,
@@ -137,7 +137,7 @@ TEST(ReportPdf, DefaultColumnHasEveryNumberAndEveryMessageInOrder)
         parts.push_back("Resposta: 1 - Utilizar cobrimento mínimo");
     }
     for (const char* p : {"Resultado: Ok", "M_Rd em N_Sd: 11845 KN.cm (118.45 kN·m)", "Utilização: 83.5 %",
-                          "N (KN), compressão positiva", "N3= 8 ø 12.5 (2 x 4)", "Seção transversal na escala 1:5"})
+                          "N (KN)", "Sd: 83.5 %", "M (KN.cm)", "N3= 8 ø 12.5 (2 x 4)", "Seção transversal na escala 1:5"})
         parts.emplace_back(p);
     expectInOrder(w.text.substr(w.text.find("3. Detalhamento")), parts, false);
     for (const auto& m : c.program.MensagensDoCalculo)
@@ -304,7 +304,7 @@ TEST(ReportPdf, CommandLineWritesTheReportOfItsRunAndSearch)
     ASSERT_EQ(runCli({"--sem-padrao", "--melhor", "--memorial", path}, out, err, {}, writer), 0) << err.str();
     const std::string text = flat(pdfText(QString::fromStdString(path)));
     expectInOrder(text, {"Barras por face: 3 nas faces de largura b, 3 nas faces de altura h",
-                         "d' automático f(cobrimento), achado pela busca da melhor solução", "Resultado: Ok",
+                         "o da solução nº 1 da busca da melhor solução, que o achou pelo cobrimento", "Resultado: Ok",
                          "Soluções da busca da melhor solução", "1 15.12 3 3 5", "40 30.24 3 7 10"});
     // The table's heading is repeated on every page it runs over.
     EXPECT_GE(count(text, "Nº Peso (kg) Barras nas faces b Barras nas faces h Estribo (mm)"), 1u);

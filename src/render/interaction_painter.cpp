@@ -1,0 +1,551 @@
+#include "render/interaction_painter.h"
+
+#include "base/number_text.h"
+
+#include <QFontMetricsF>
+#include <QLineF>
+#include <QPainter>
+#include <QPolygonF>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace pilarix::render {
+
+namespace {
+
+// Beyond this the spans and paddings of an axis could overflow; no column gets near.
+constexpr double kLargest = 1e250;
+
+const QColor kCarried(0, 140, 60);
+const QColor kNotCarried(205, 30, 30);
+const QColor kUnknown(128, 128, 128);
+const QColor kCurveLine(30, 90, 170);
+const QColor kCurveFill(60, 120, 200, 45);
+const QColor kGrid(228, 228, 228);
+const QColor kAxis(70, 70, 70);
+
+// In pixels of 1/96 in, times the style's unit.
+constexpr double kMarker = 4.5, kGoverningMarker = 6.5, kRing = 4, kDiamond = 4.5, kCross = 4, kGap = 4;
+
+bool finite(double x) { return std::isfinite(x); }
+
+QString qs(const std::string& s) { return QString::fromStdString(s); }
+
+struct Axis {
+    double lo = -1, hi = 1, step = 0.5;
+    std::vector<double> ticks;
+};
+
+// An axis over [lo, hi] (which holds 0) with ticks at the multiples of a round step,
+// 1, 2, 2.5 or 5 times a power of ten, about one per `perTick` device units. The ends
+// are not rounded out to ticks: that could leave a quarter of the frame empty.
+Axis niceAxis(double lo, double hi, double length, double perTick)
+{
+    if (!(hi > lo)) { // a curve flat along this axis still gets a range about it
+        const double a = std::max(std::abs(lo), std::abs(hi));
+        const double d = a > 0 ? 0.1 * a : 1;
+        lo -= d;
+        hi += d;
+    }
+    // A little room, so that the curve does not run along the frame; a side at the
+    // origin keeps the origin at the frame.
+    const double pad = 0.04 * (hi - lo);
+    if (lo < 0)
+        lo -= pad;
+    if (hi > 0)
+        hi += pad;
+    const double wanted = std::clamp(std::floor(length / std::max(perTick, 1e-9)), 2.0, 12.0);
+    const double rough = (hi - lo) / wanted;
+    Axis a;
+    if (!(rough > 0) || !finite(rough)) {
+        a.ticks = {-1, -0.5, 0, 0.5, 1};
+        return a;
+    }
+    const double magnitude = std::pow(10.0, std::floor(std::log10(rough)));
+    a.step = 10 * magnitude;
+    for (double k : {1.0, 2.0, 2.5, 5.0})
+        if (k * magnitude >= rough * (1 - 1e-12)) {
+            a.step = k * magnitude;
+            break;
+        }
+    a.lo = lo;
+    a.hi = hi;
+    // A step as long as the span would leave the origin the only value: a narrow plot
+    // still reads a scale, one round step shorter.
+    while (std::floor(hi / a.step + 1e-9) - std::ceil(lo / a.step - 1e-9) < 1 && a.step > magnitude * 1e-3) {
+        const double k = a.step / std::pow(10.0, std::floor(std::log10(a.step) + 1e-12));
+        a.step *= k > 2.4 && k < 2.6 ? 0.8 : 0.5; // 5 → 2.5 → 2 → 1 → 0.5
+    }
+    const double first = std::ceil(lo / a.step - 1e-9), last = std::floor(hi / a.step + 1e-9);
+    if (!(a.step > 0) || !finite(first) || !finite(last) || last - first > 200) {
+        a = Axis{};
+        a.ticks = {-1, -0.5, 0, 0.5, 1};
+        return a;
+    }
+    for (double k = first; k <= last; ++k)
+        a.ticks.push_back(k == 0 ? 0.0 : k * a.step); // the origin reads "0", never "-0"
+    return a;
+}
+
+// As many decimals as the step needs: 0.25 two, 2.5 one, 500 none.
+int decimalsFor(double step)
+{
+    int d = 0;
+    double scaled = step;
+    while (d < 12 && std::abs(scaled - std::round(scaled)) > 1e-6 * scaled) {
+        scaled *= 10;
+        ++d;
+    }
+    return d;
+}
+
+QString tickText(double v, int decimals) { return QString::number(v, 'f', decimals); }
+
+double widestLabel(const QFontMetricsF& fm, const Axis& a)
+{
+    const int d = decimalsFor(a.step);
+    double w = 0;
+    for (double v : a.ticks)
+        w = std::max(w, fm.horizontalAdvance(tickText(v, d)));
+    return w;
+}
+
+QFont bold(const QFont& f)
+{
+    QFont b = f;
+    b.setBold(true);
+    return b;
+}
+
+// ---- what a label must keep clear of ----
+
+bool segmentMeetsRect(QPointF a, QPointF b, const QRectF& r)
+{
+    if (r.contains(a) || r.contains(b))
+        return true;
+    const QLineF s(a, b);
+    const std::array<QLineF, 4> edges{QLineF(r.topLeft(), r.topRight()), QLineF(r.topRight(), r.bottomRight()),
+                                      QLineF(r.bottomRight(), r.bottomLeft()), QLineF(r.bottomLeft(), r.topLeft())};
+    for (const QLineF& e : edges)
+        if (s.intersects(e, nullptr) == QLineF::BoundedIntersection)
+            return true;
+    return false;
+}
+
+struct Obstacles {
+    std::vector<QRectF> hard;                           // labels and markers
+    std::vector<QPointF> curve;                         // closed polyline
+    std::vector<std::pair<QPointF, QPointF>> soft;      // axes and the ray: better avoided
+
+    bool blocks(const QRectF& r, bool withSoft) const
+    {
+        for (const QRectF& h : hard)
+            if (h.intersects(r))
+                return true;
+        for (std::size_t i = 0; i < curve.size(); ++i)
+            if (segmentMeetsRect(curve[i], curve[(i + 1) % curve.size()], r))
+                return true;
+        if (withSoft)
+            for (const auto& [a, b] : soft)
+                if (segmentMeetsRect(a, b, r))
+                    return true;
+        return false;
+    }
+};
+
+QRectF textRect(const QFontMetricsF& fm, const QString& text)
+{
+    return QRectF(0, 0, fm.horizontalAdvance(text) + 2, fm.height());
+}
+
+// The eight places about a point, near then farther, the first preferred: above
+// right, as a reader looks for a name.
+std::vector<QRectF> placesAround(QPointF p, double radius, QSizeF size, double gap, bool nearOnly)
+{
+    std::vector<QRectF> out;
+    for (double d : {radius + gap, radius + 3.5 * gap}) {
+        if (nearOnly && d > radius + gap)
+            break;
+        const double w = size.width(), h = size.height();
+        const std::array<QPointF, 8> corners{
+            QPointF(p.x() + d, p.y() - d / 2 - h),      QPointF(p.x() + d, p.y() + d / 2),
+            QPointF(p.x() - d - w, p.y() - d / 2 - h),  QPointF(p.x() - d - w, p.y() + d / 2),
+            QPointF(p.x() - w / 2, p.y() - d - h),      QPointF(p.x() - w / 2, p.y() + d),
+            QPointF(p.x() + d, p.y() - h / 2),          QPointF(p.x() - d - w, p.y() - h / 2)};
+        for (const QPointF& c : corners)
+            out.emplace_back(c, size);
+    }
+    return out;
+}
+
+// The first free place for one of the texts, the fullest first; none where nothing fits.
+std::optional<std::pair<QRectF, int>> firstFree(const std::vector<QString>& texts, const QFontMetricsF& fm,
+                                                QPointF at, double radius, double gap, const QRectF& room,
+                                                const Obstacles& obstacles, bool nearOnly = false)
+{
+    for (int k = 0; k < static_cast<int>(texts.size()); ++k) {
+        const QSizeF size = textRect(fm, texts[static_cast<std::size_t>(k)]).size();
+        for (bool strict : {true, false})
+            for (const QRectF& r : placesAround(at, radius, size, gap, nearOnly))
+                if (room.contains(r) && !obstacles.blocks(r, strict))
+                    return std::make_pair(r, k);
+    }
+    return std::nullopt;
+}
+
+QString caseName(const ChartCase& c)
+{
+    const QString n = qs(c.name).trimmed();
+    return n.isEmpty() ? QStringLiteral("Sd") : n;
+}
+
+} // namespace
+
+int governingCase(const std::vector<ChartCase>& cases)
+{
+    for (std::size_t i = 0; i < cases.size(); ++i)
+        if (cases[i].governing)
+            return static_cast<int>(i);
+    int best = -1;
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        const double u = cases[i].utilisation;
+        if (best < 0)
+            best = static_cast<int>(i);
+        else if (const double b = cases[static_cast<std::size_t>(best)].utilisation;
+                 (std::isnan(b) && !std::isnan(u)) || u > b)
+            best = static_cast<int>(i);
+    }
+    return best;
+}
+
+bool utilisationKnown(double utilisation) { return !std::isnan(utilisation) && utilisation >= 0; }
+
+QColor utilisationColour(double utilisation)
+{
+    if (!utilisationKnown(utilisation))
+        return kUnknown;
+    return utilisation <= 1 ? kCarried : kNotCarried;
+}
+
+QString utilisationText(double utilisation)
+{
+    if (!utilisationKnown(utilisation))
+        return QStringLiteral("—");
+    if (std::isinf(utilisation))
+        return QStringLiteral("∞");
+    const QString text = QString::fromStdString(Format(100 * utilisation, "##0.0"));
+    // 100.04 % rounds to the text of the boundary itself, but the point is outside.
+    if (utilisation > 1 && text == QStringLiteral("100.0"))
+        return QStringLiteral("> 100.0 %");
+    return text + QStringLiteral(" %");
+}
+
+QString axisTitle(const QString& letter, const QString& unit)
+{
+    return unit.trimmed().isEmpty() ? letter : QStringLiteral("%1 (%2)").arg(letter, unit.trimmed());
+}
+
+QPointF ChartLayout::toScreen(double m, double n) const
+{
+    return {area.left() + (m - mLo) / (mHi - mLo) * area.width(),
+            area.bottom() - (n - nLo) / (nHi - nLo) * area.height()};
+}
+
+ChartLayout layoutChart(const InteractionChart& chart, const QRectF& bounds, const ChartStyle& style,
+                        QPaintDevice* device)
+{
+    ChartLayout out;
+    out.bounds = bounds;
+    out.governing = governingCase(chart.cases);
+    const double u = style.unit;
+
+    // The origin is always in view: the axes cross there and the ray starts there.
+    double mMin = 0, mMax = 0, nMin = 0, nMax = 0;
+    const auto take = [&](double m, double n) {
+        if (!finite(m) || !finite(n))
+            return;
+        mMin = std::min(mMin, m);
+        mMax = std::max(mMax, m);
+        nMin = std::min(nMin, n);
+        nMax = std::max(nMax, n);
+    };
+    std::size_t finiteCurve = 0;
+    for (const auto& [n, m] : chart.curve)
+        if (finite(n) && finite(m)) {
+            take(m, n);
+            ++finiteCurve;
+        }
+    for (const auto& c : chart.cases)
+        take(c.m, c.n);
+    if (out.governing >= 0 && chart.mRd)
+        take(*chart.mRd, chart.cases[static_cast<std::size_t>(out.governing)].n);
+    out.drawable = finiteCurve >= 3 && std::max({-mMin, mMax, -nMin, nMax}) <= kLargest;
+    if (!out.drawable)
+        return out;
+
+    const QFontMetricsF fm(style.font, device), bm(bold(style.font), device);
+    const double line = fm.height();
+    // Above: the title of N. Below: the values of M and its title. Left: the values of N.
+    const double top = 1.6 * line + 6 * u, bottom = 2.4 * line + 10 * u;
+    const double height = std::max(bounds.height() - top - bottom, 1.0);
+    Axis n = niceAxis(nMin, nMax, height, 3 * line);
+    const double left = std::min(widestLabel(fm, n) + 14 * u, 0.35 * bounds.width());
+    const double right = 12 * u + fm.horizontalAdvance(QStringLiteral("-0000")) / 2;
+    const double width = std::max(bounds.width() - left - right, 1.0);
+
+    out.area = QRectF(bounds.left() + left, bounds.top() + top, width, height);
+    // Two units, two scales; only a frame far wider or taller than a sheet is narrowed,
+    // so that the curve does not become a line.
+    constexpr double kWidest = 2.2, kTallest = 1 / 1.6;
+    QRectF& a = out.area;
+    if (a.width() > kWidest * a.height()) {
+        const double w = kWidest * a.height();
+        a.adjust((a.width() - w) / 2, 0, -(a.width() - w) / 2, 0);
+    } else if (a.width() < kTallest * a.height()) {
+        const double h = a.width() / kTallest;
+        a.adjust(0, (a.height() - h) / 2, 0, -(a.height() - h) / 2);
+        n = niceAxis(nMin, nMax, a.height(), 3 * line);
+    }
+
+    // Values of M side by side need room in the frame as it stands: widen the
+    // spacing until they fit.
+    double perTick = 70 * u;
+    Axis m = niceAxis(mMin, mMax, a.width(), perTick);
+    for (int i = 0; i < 4; ++i) {
+        const double room = a.width() / std::max<double>(static_cast<double>(m.ticks.size()) - 1, 1);
+        const double need = widestLabel(fm, m) + 12 * u;
+        if (need <= room)
+            break;
+        perTick *= need / room + 0.05;
+        m = niceAxis(mMin, mMax, a.width(), perTick);
+    }
+    out.mLo = m.lo;
+    out.mHi = m.hi;
+    out.mStep = m.step;
+    out.mTicks = m.ticks;
+    out.nLo = n.lo;
+    out.nHi = n.hi;
+    out.nStep = n.step;
+    out.nTicks = n.ticks;
+
+    for (const auto& [cn, cm] : chart.curve)
+        if (finite(cn) && finite(cm))
+            out.curve.push_back(out.toScreen(cm, cn));
+
+    Obstacles obstacles;
+    obstacles.curve = out.curve;
+    const QPointF o = out.toScreen(0, 0);
+    obstacles.soft.push_back({QPointF(a.left(), o.y()), QPointF(a.right(), o.y())});
+    obstacles.soft.push_back({QPointF(o.x(), a.top()), QPointF(o.x(), a.bottom())});
+
+    const auto place = [&](ChartLabel l) {
+        obstacles.hard.push_back(l.rect);
+        out.labels.push_back(std::move(l));
+    };
+
+    // The values at the edges of the frame, clear of the curve; one that would touch
+    // its neighbour is left out.
+    const int md = decimalsFor(out.mStep), nd = decimalsFor(out.nStep);
+    for (double v : out.mTicks) {
+        const QString t = tickText(v, md);
+        const QRectF r = textRect(fm, t);
+        const QRectF at(out.toScreen(v, 0).x() - r.width() / 2, a.bottom() + 4 * u, r.width(), r.height());
+        if (!obstacles.blocks(at, false))
+            place({ChartLabel::Kind::MomentTick, t, at});
+    }
+    for (double v : out.nTicks) {
+        const QString t = tickText(v, nd);
+        const QRectF r = textRect(fm, t);
+        const QRectF at(a.left() - 8 * u - r.width(), out.toScreen(0, v).y() - r.height() / 2, r.width(), r.height());
+        if (!obstacles.blocks(at, false))
+            place({ChartLabel::Kind::ForceTick, t, at});
+    }
+
+    // N above its axis, M at the right end under its values.
+    {
+        const QString t = axisTitle(QStringLiteral("N"), qs(chart.forceUnit));
+        const QRectF r = textRect(bm, t);
+        const double x = std::clamp(o.x() - r.width() / 2, bounds.left(),
+                                    std::max(bounds.left(), bounds.right() - r.width()));
+        QRectF at(x, a.top() - 1.5 * line - 2 * u, r.width(), r.height());
+        if (obstacles.blocks(at, false)) // beside the values of N rather than over one
+            at.moveLeft(std::max(bounds.left(), a.left() - r.width() - 8 * u));
+        place({ChartLabel::Kind::ForceTitle, t, at, -1, true});
+    }
+    {
+        const QString t = axisTitle(QStringLiteral("M"), qs(chart.momentUnit));
+        const QRectF r = textRect(bm, t);
+        const QRectF at(a.right() - r.width(), a.bottom() + 4 * u + line + 2 * u, r.width(), r.height());
+        place({ChartLabel::Kind::MomentTitle, t, at, -1, true});
+    }
+
+    // Every marker is kept clear of every text.
+    for (std::size_t i = 0; i < chart.cases.size(); ++i) {
+        const ChartCase& c = chart.cases[i];
+        if (!finite(c.m) || !finite(c.n))
+            continue;
+        const bool main = static_cast<int>(i) == out.governing;
+        const double r = (main ? kGoverningMarker + kRing : kMarker) * u;
+        const ChartMarker mk{static_cast<int>(i), out.toScreen(c.m, c.n), r};
+        out.markers.push_back(mk);
+        obstacles.hard.push_back(QRectF(mk.centre - QPointF(r, r), QSizeF(2 * r, 2 * r)));
+    }
+    std::optional<QPointF> resistance;
+    if (out.governing >= 0 && chart.mRd && finite(*chart.mRd)) {
+        const ChartCase& g = chart.cases[static_cast<std::size_t>(out.governing)];
+        if (finite(g.n)) {
+            // On the side of the point's moment: the section is symmetric, the capacity the same.
+            resistance = out.toScreen((g.m < 0 ? -1 : 1) * std::abs(*chart.mRd), g.n);
+            const double r = kDiamond * u;
+            obstacles.hard.push_back(QRectF(*resistance - QPointF(r, r), QSizeF(2 * r, 2 * r)));
+            obstacles.soft.push_back({QPointF(o.x(), resistance->y()), *resistance});
+        }
+    }
+    if (out.governing >= 0) {
+        const ChartCase& g = chart.cases[static_cast<std::size_t>(out.governing)];
+        if (finite(g.m) && finite(g.n))
+            obstacles.soft.push_back({o, out.toScreen(g.m, g.n)});
+    }
+
+    // The names: the governing case first, then the most used, each at the first
+    // free place about its point.
+    std::vector<int> order;
+    for (const ChartMarker& mk : out.markers)
+        order.push_back(mk.caseIndex);
+    std::stable_sort(order.begin(), order.end(), [&](int x, int y) {
+        if ((x == out.governing) != (y == out.governing))
+            return x == out.governing;
+        const double ux = chart.cases[static_cast<std::size_t>(x)].utilisation;
+        const double uy = chart.cases[static_cast<std::size_t>(y)].utilisation;
+        return ux > uy;
+    });
+    const bool several = chart.cases.size() > 1;
+    for (int i : order) {
+        const ChartCase& c = chart.cases[static_cast<std::size_t>(i)];
+        const ChartMarker& mk = *std::find_if(out.markers.begin(), out.markers.end(),
+                                              [i](const ChartMarker& x) { return x.caseIndex == i; });
+        const QString name = several ? caseName(c) : QStringLiteral("Sd");
+        std::vector<QString> texts{name + QStringLiteral(": ") + utilisationText(c.utilisation), name};
+        if (name.size() > 6)
+            texts.push_back(name.left(5) + QStringLiteral("…"));
+        const bool main = i == out.governing;
+        const QFontMetricsF& f = main ? bm : fm;
+        if (const auto found = firstFree(texts, f, mk.centre, mk.radius, kGap * u, bounds, obstacles))
+            place({ChartLabel::Kind::Case, texts[static_cast<std::size_t>(found->second)], found->first, i, main,
+                   found->second > 0});
+        else
+            out.unlabelledCases.push_back(i);
+    }
+    if (resistance) {
+        const std::vector<QString> texts{QStringLiteral("M_Rd")};
+        // Beside its mark or not at all: farther off it would name another point. A
+        // governing point on the curve hides the mark, and its name says enough.
+        if (const auto found = firstFree(texts, fm, *resistance, kDiamond * u, kGap * u, bounds, obstacles, true))
+            place({ChartLabel::Kind::Resistance, texts[0], found->first});
+    }
+    return out;
+}
+
+void paintChart(QPainter& p, const InteractionChart& chart, const ChartLayout& l, const ChartStyle& style)
+{
+    if (!l.drawable)
+        return;
+    const double u = style.unit;
+    const QRectF& a = l.area;
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setRenderHint(QPainter::TextAntialiasing);
+
+    // The grid, then the axes crossing at the origin, ticked at every round number.
+    p.setPen(QPen(kGrid, 1 * u));
+    for (double v : l.mTicks)
+        p.drawLine(QPointF(l.toScreen(v, 0).x(), a.top()), QPointF(l.toScreen(v, 0).x(), a.bottom()));
+    for (double v : l.nTicks)
+        p.drawLine(QPointF(a.left(), l.toScreen(0, v).y()), QPointF(a.right(), l.toScreen(0, v).y()));
+    const QPointF o = l.toScreen(0, 0);
+    p.setPen(QPen(kAxis, 1.2 * u));
+    p.drawLine(QPointF(a.left(), o.y()), QPointF(a.right(), o.y()));
+    p.drawLine(QPointF(o.x(), a.top()), QPointF(o.x(), a.bottom()));
+    const double tick = 4 * u;
+    for (double v : l.mTicks) {
+        const double x = l.toScreen(v, 0).x();
+        p.drawLine(QPointF(x, o.y() - tick), QPointF(x, o.y() + tick));
+    }
+    for (double v : l.nTicks) {
+        const double y = l.toScreen(0, v).y();
+        p.drawLine(QPointF(o.x() - tick, y), QPointF(o.x() + tick, y));
+    }
+
+    // The curve, closed.
+    p.setPen(QPen(kCurveLine, 1.8 * u, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p.setBrush(kCurveFill);
+    p.drawPolygon(QPolygonF(QList<QPointF>(l.curve.begin(), l.curve.end())));
+    p.setBrush(Qt::NoBrush);
+
+    const ChartCase* g = l.governing >= 0 ? &chart.cases[static_cast<std::size_t>(l.governing)] : nullptr;
+    // M_Rd under the governing axial force.
+    if (g && chart.mRd && finite(*chart.mRd) && finite(g->n)) {
+        const QPointF at = l.toScreen((g->m < 0 ? -1 : 1) * std::abs(*chart.mRd), g->n);
+        p.setPen(QPen(kAxis, 1 * u, Qt::DotLine));
+        p.drawLine(QPointF(o.x(), at.y()), at);
+        p.setPen(QPen(kAxis, 1.3 * u));
+        p.setBrush(Qt::white);
+        const double r = kDiamond * u;
+        p.drawPolygon(QPolygonF{at + QPointF(0, -r), at + QPointF(r, 0), at + QPointF(0, r), at + QPointF(-r, 0)});
+        p.setBrush(Qt::NoBrush);
+    }
+    // The ray of the governing point, out to the farther of the point and the curve.
+    if (g && finite(g->m) && finite(g->n) && g->utilisation > 0 && finite(g->utilisation) && (g->m != 0 || g->n != 0)) {
+        const QPointF point = l.toScreen(g->m, g->n);
+        const QPointF edge = l.toScreen(g->m / g->utilisation, g->n / g->utilisation);
+        // A utilisation that does not belong to this curve could put the edge anywhere;
+        // the ray then stops at the point.
+        const bool edgeShown = a.adjusted(-40 * u, -40 * u, 40 * u, 40 * u).contains(edge);
+        p.setPen(QPen(utilisationColour(g->utilisation).lighter(120), 1.3 * u, Qt::DashLine));
+        p.drawLine(o, g->utilisation <= 1 && edgeShown ? edge : point);
+        if (edgeShown) {
+            p.setPen(QPen(kAxis, 1.6 * u));
+            const double c = kCross * u;
+            p.drawLine(edge + QPointF(-c, -c), edge + QPointF(c, c));
+            p.drawLine(edge + QPointF(-c, c), edge + QPointF(c, -c));
+        }
+    }
+
+    // The markers, the governing one last so that it is on top.
+    std::vector<ChartMarker> markers = l.markers;
+    std::stable_partition(markers.begin(), markers.end(),
+                          [&](const ChartMarker& m) { return m.caseIndex != l.governing; });
+    for (const ChartMarker& m : markers) {
+        const ChartCase& c = chart.cases[static_cast<std::size_t>(m.caseIndex)];
+        const QColor colour = utilisationColour(c.utilisation);
+        const bool main = m.caseIndex == l.governing;
+        const double r = (main ? kGoverningMarker : kMarker) * u;
+        p.setPen(QPen(colour.darker(150), 1.2 * u));
+        p.setBrush(colour);
+        p.drawEllipse(m.centre, r, r);
+        p.setBrush(Qt::NoBrush);
+        if (main) {
+            p.setPen(QPen(colour, 1.5 * u));
+            p.drawEllipse(m.centre, r + kRing * u, r + kRing * u);
+        }
+    }
+
+    // Every text where the layout put it.
+    for (const ChartLabel& t : l.labels) {
+        p.setFont(t.bold ? bold(style.font) : style.font);
+        QColor colour = kAxis;
+        if (t.kind == ChartLabel::Kind::MomentTitle || t.kind == ChartLabel::Kind::ForceTitle)
+            colour = Qt::black;
+        else if (t.kind == ChartLabel::Kind::Case)
+            colour = utilisationColour(chart.cases[static_cast<std::size_t>(t.caseIndex)].utilisation).darker(130);
+        p.setPen(colour);
+        const Qt::Alignment align = t.kind == ChartLabel::Kind::ForceTick ? Qt::AlignRight | Qt::AlignVCenter
+                                                                          : Qt::AlignHCenter | Qt::AlignVCenter;
+        p.drawText(t.rect, align, t.text);
+    }
+    p.restore();
+}
+
+} // namespace pilarix::render
