@@ -335,7 +335,15 @@ EnvelopeMargin minimumMomentMargin(const BiaxialSection& section, double nSd, do
         throw CalcError("Momentos mínimos inválidos: M1d,mín,xx = " + Str(a) + " e M1d,mín,yy = " + Str(b)
                         + " devem ser positivos.");
     checkCentred(section);
-    const MomentContour c = momentContour(section, nSd);
+    return minimumMomentMargin(section, momentContour(section, nSd), a, b);
+}
+
+EnvelopeMargin minimumMomentMargin(const BiaxialSection& section, const MomentContour& c, double a, double b)
+{
+    if (!std::isfinite(a) || !(a > 0) || !std::isfinite(b) || !(b > 0))
+        throw CalcError("Momentos mínimos inválidos: M1d,mín,xx = " + Str(a) + " e M1d,mín,yy = " + Str(b)
+                        + " devem ser positivos.");
+    const double nSd = c.nSd;
     EnvelopeMargin e;
     e.inRange = c.inRange;
     if (!c.inRange)
@@ -371,7 +379,8 @@ EnvelopeMargin minimumMomentMargin(const BiaxialSection& section, double nSd, do
     double x1 = hi - kGolden * (hi - lo), x2 = lo + kGolden * (hi - lo);
     ContourPoint p1, p2;
     double f1 = ratioAt(x1, p1), f2 = ratioAt(x2, p2);
-    for (int i = 0; i < 60 && hi - lo > 1e-9; ++i) {
+    // A millionth of a radian: the margin is then exact to far below what is printed.
+    for (int i = 0; i < 60 && hi - lo > 1e-6; ++i) {
         if (f1 < f2) {
             hi = x2, x2 = x1, f2 = f1, p2 = p1;
             x1 = hi - kGolden * (hi - lo);

@@ -100,6 +100,8 @@ BiaxialUtilisation utilisationAtN(const BiaxialSection& section, double nSd, dou
 
 // a and b: the semi-axes M1d,min,xx and M1d,min,yy (kgf·cm), both positive.
 EnvelopeMargin minimumMomentMargin(const BiaxialSection& section, double nSd, double a, double b);
+// The same on a contour already worked out at its N (momentContour of this section).
+EnvelopeMargin minimumMomentMargin(const BiaxialSection& section, const MomentContour& contour, double a, double b);
 
 SimplifiedInteraction simplifiedInteraction(const BiaxialSection& section, double nSd, double mx, double my,
                                             double exponent = 1.2);

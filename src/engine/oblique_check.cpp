@@ -30,6 +30,23 @@ double envelopeSemiAxis(const DirectionSlenderness& d)
     return d.minimumMoment + (d.secondOrder ? d.secondOrderMoment : 0);
 }
 
+// The straight line of the axis capacities leaves a point at most this far along it
+// for the quick answer (the contour's dents are below 1 %).
+constexpr double kSurelyInside = 0.98;
+
+// (|Mx|/M_Rd,xx)^α + (|My|/M_Rd,yy)^α; +∞ where N is not carried.
+double interaction(double mx, double my, const AxisCapacities& axis, double alpha)
+{
+    if (!axis.inRange)
+        return std::numeric_limits<double>::infinity();
+    auto term = [&](double m, double mRd) {
+        if (m == 0)
+            return 0.0;
+        return mRd > 0 ? std::pow(std::fabs(m) / mRd, alpha) : std::numeric_limits<double>::infinity();
+    };
+    return term(mx, axis.mRdxx) + term(my, axis.mRdyy);
+}
+
 Check pointNotCarried(const ObliquePoint& p)
 {
     const std::string u = std::isfinite(p.utilisation) ? Format(100 * p.utilisation, "##0.0") + " %" : "sem limite";
@@ -71,11 +88,12 @@ ObliqueCheck checkOblique(const BiaxialSection& section, const std::vector<CaseR
         return out;
     const CaseResult2014& governing = cases[static_cast<std::size_t>(governingCase)];
     out.nSd = governing.nSd;
+    MomentContour contour;
     if (withContour) {
         const AxisCapacities axes = axisCapacities(section, out.nSd);
         out.mRdxx = axes.mRdxx;
         out.mRdyy = axes.mRdyy;
-        const MomentContour contour = momentContour(section, out.nSd);
+        contour = momentContour(section, out.nSd);
         for (const ContourPoint& p : contour.points)
             out.contour.emplace_back(p.mx, p.my);
     }
@@ -83,11 +101,19 @@ ObliqueCheck checkOblique(const BiaxialSection& section, const std::vector<CaseR
     out.envelope.margin = std::numeric_limits<double>::infinity();
     for (const CaseResult2014& c : cases) {
         const Case2014& k = c.loadCase;
+        // The capacities about each axis alone at this N: the simplified interaction's
+        // and, for the search, a quick answer where it is certain.
+        const AxisCapacities axis = axisCapacities(section, c.nSd);
         auto point = [&](const char* where, double mx, double my) {
             ObliquePoint p{k.name, where, c.nSd, mx, my, 0, 0};
-            p.utilisation = utilisationAtN(section, c.nSd, mx, my).ratio;
-            if (withContour)
-                p.simplified = simplifiedInteraction(section, c.nSd, mx, my).value;
+            p.simplified = interaction(mx, my, axis, 1.2);
+            // The contour at fixed N is convex but for dents of a few thousandths: a
+            // point well inside the straight line between the axis capacities is
+            // carried, and the search needs no more than that.
+            if (!withContour && interaction(mx, my, axis, 1) <= kSurelyInside)
+                p.utilisation = interaction(mx, my, axis, 1);
+            else
+                p.utilisation = utilisationAtN(section, c.nSd, mx, my).ratio;
             out.utilisation = std::max(out.utilisation, p.utilisation);
             out.points.push_back(p);
         };
@@ -98,9 +124,19 @@ ObliqueCheck checkOblique(const BiaxialSection& section, const std::vector<CaseR
         // The envelope of the minimum moments, for a column in compression.
         if (c.nSd > 0) {
             const double a = envelopeSemiAxis(c.h.slenderness), b = envelopeSemiAxis(c.b.slenderness);
-            const EnvelopeMargin m = minimumMomentMargin(section, c.nSd, a, b);
-            if (m.margin < out.envelope.margin)
-                out.envelope = {k.name, a, b, m.margin, m.margin >= 1};
+            // The ellipse inside the rhombus of the axis capacities is inside the contour.
+            const double rhombus = axis.inRange && axis.mRdxx > 0 && axis.mRdyy > 0
+                                       ? std::hypot(a / axis.mRdxx, b / axis.mRdyy)
+                                       : std::numeric_limits<double>::infinity();
+            double margin = 0;
+            if (!withContour && rhombus <= kSurelyInside)
+                margin = 1 / rhombus;
+            else if (withContour && &c == &governing)
+                margin = minimumMomentMargin(section, contour, a, b).margin;
+            else
+                margin = minimumMomentMargin(section, c.nSd, a, b).margin;
+            if (margin < out.envelope.margin)
+                out.envelope = {k.name, a, b, margin, margin >= 1};
         }
     }
     if (!std::isfinite(out.envelope.margin))
