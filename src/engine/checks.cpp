@@ -32,6 +32,7 @@ std::string_view clauseOf(CheckId id)
     case CheckId::BarAboveEighthOfSide:
         return kItemBarDiameter;
     case CheckId::MaximumRatio:
+    case CheckId::SectionOverloaded:
         return kItemMaximumRatio;
     case CheckId::PredefinedStirrupTooThin:
         return kItemStirrup;
@@ -130,6 +131,14 @@ Check barAboveEighthOfSide(double barDiameter, double smallerSide)
     return make(CheckId::BarAboveEighthOfSide,
                 "Diâmetro da barra longitudinal excede o máximo permitido = 1/8 da menor dimensão. No caso "
                     + Str(barDiameter) + "cm > " + Str(smallerSide / 8) + "cm");
+}
+
+Check sectionOverloaded(double asNec, double asMax)
+{
+    return make(CheckId::SectionOverloaded,
+                "A seção não comporta os esforços: são necessários " + Format(asNec, "##0.00")
+                    + " cm², o máximo é " + Format(asMax, "##0.00")
+                    + " cm² (4 % da seção fora das regiões de emenda). Aumente a seção ou a resistência do concreto.");
 }
 
 Check maximumRatio(double asReal, double asMax)

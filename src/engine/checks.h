@@ -26,6 +26,7 @@ enum class CheckId {
     BarBelowRequired,
     BarAboveEighthOfSide,
     MaximumRatio,
+    SectionOverloaded,
     MinimumRatioNeedsLargerBar,
     FixedBarBelowRequired,
     FixedBarBelowMinimum,
@@ -82,6 +83,8 @@ Check wallColumn(double largerSide, double smallerSide);
 Check barBelowRequired();
 Check barAboveEighthOfSide(double barDiameter, double smallerSide);
 Check maximumRatio(double asReal, double asMax);
+// The design needs more steel (cm²) than the section may hold outside laps.
+Check sectionOverloaded(double asNec, double asMax);
 Check minimumRatioNeedsLargerBar();
 // The bar the engineer fixed: its diameter (cm), its area and the area needed, per bar (cm²).
 Check fixedBarBelowRequired(double diameter, double barArea, double requiredPerBar);

@@ -14,6 +14,7 @@ std::string_view clauseOf2014(CheckId id)
     case CheckId::FinalBarAboveEighthOfSide:
         return "Item 18.4.2.1 da ABNT NBR 6118:2014";
     case CheckId::MaximumRatio:
+    case CheckId::SectionOverloaded:
         return "Item 17.3.5.3.2 da ABNT NBR 6118:2014";
     case CheckId::PredefinedStirrupTooThin:
     case CheckId::FinalStirrupTooThin:

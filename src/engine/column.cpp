@@ -586,6 +586,12 @@ void Passes::run(ColumnResult& r)
             return;
 
         if (!silent()) {
+            // A section that needs more steel than it may hold says so first, before
+            // the bar, the stirrup and the cover have anything to say about it.
+            if (const double asMax = steelLimits(in_.Nd, s.fyd, s.Ac, s.NBarrasTotal).asMax; s.AsNec > asMax) {
+                fail(r, checks::sectionOverloaded(s.AsNec, asMax));
+                return;
+            }
             chooseBar(r);
             if (barTooSmall_)
                 return;
