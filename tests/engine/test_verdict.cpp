@@ -255,3 +255,22 @@ TEST(EngineVerdict, TheSearchKeepsOnlyColumnsThatCarryTheirForces)
     EXPECT_TRUE(stopped.cancelled);
     EXPECT_TRUE(stopped.found.empty());
 }
+
+TEST(EngineVerdict, AnOverloadedSectionSaysSoFirst)
+{
+    // 12 x 50 under 3000 kN: 93 cm² against the 24 cm² that 4 % of the section allows.
+    // One message, and no bar chosen from the catalogue.
+    ColumnInput in;
+    in.base = 12;
+    in.Nd = 300000;
+    in.dLinha.typed = 4;
+    Recorder q;
+    Memory memory;
+    const ColumnResult r = calculate(in, q, memory);
+    EXPECT_FALSE(r.detailed);
+    EXPECT_FALSE(r.ok());
+    ASSERT_EQ(q.told.size(), 1u);
+    EXPECT_EQ(q.told[0].id, CheckId::SectionOverloaded);
+    EXPECT_EQ(q.told[0].text.rfind("A seção não comporta os esforços: são necessários ", 0), 0u) << q.told[0].text;
+    EXPECT_NE(q.told[0].text.find("o máximo é 24.00 cm²"), std::string::npos) << q.told[0].text;
+}
