@@ -123,12 +123,15 @@ Column2014Result calculate2014(const ColumnInput& given, const std::vector<Case2
     ColumnInput column = given;
     column.rules = RuleSet::Nbr2014;
 
-    const GammaN2014 g = gammaN2014(column.base, column.depth);
-    if (g.refusal) {
-        r.refusal = fromCheck2014(*g.refusal);
+    // A rule of 2014 that does not apply to these data: told, and nothing designed.
+    auto refuse = [&](const Check2014& why) {
+        r.refusal = fromCheck2014(why);
         told.tell(*r.refusal);
         return r;
-    }
+    };
+    const GammaN2014 g = gammaN2014(column.base, column.depth);
+    if (g.refusal)
+        return refuse(*g.refusal);
     r.gammaN = g.gammaN;
     column.gammaN = g.gammaN;
 
@@ -136,11 +139,8 @@ Column2014Result calculate2014(const ColumnInput& given, const std::vector<Case2
         CaseResult2014 cr;
         cr.loadCase = c;
         const ColumnSlenderness s = slendernessOf(column, c, slenderness, r.gammaN);
-        if (s.refusal) {
-            r.refusal = fromCheck2014(*s.refusal);
-            told.tell(*r.refusal);
-            return r;
-        }
+        if (s.refusal)
+            return refuse(*s.refusal);
         cr.nSd = s.Nd;
         cr.nu = s.nu;
         cr.h.slenderness = s.alongDepth;
