@@ -353,9 +353,15 @@ void Passes::chooseStirrupByMode(ColumnResult& r)
         s.EspEstriboEsc = s.EspEstribo;
     } else if (s.Recalcula != Recalculation::Yes) {
         chosen = stirrupFromAnswer(rules_, questions_->chooseStirrup(stirrupQuestion(rules_)));
+    } else {
+        // A repeated pass asks nothing: it keeps the stirrup chosen in the first pass,
+        // and a thinner one of the bars' own steel keeps its own spacing, as the first
+        // pass gave it. Otherwise a column whose cover was corrected would get another
+        // stirrup than the same column opened with the corrected d'.
+        for (int k = 1; k < rules_.minimumIndex; ++k)
+            if (bar(k).diameter == s.DiamEstriboEsc)
+                s.EspEstriboEsc = rules_.sameSteelSpacing.at(static_cast<std::size_t>(k));
     }
-    // A repeated pass asks nothing: it keeps the stirrup chosen in the first pass, at
-    // the spacing just computed.
     if (chosen != 0) {
         s.Indice = chosen;
         s.DiamEstriboEsc = bar(chosen).diameter;

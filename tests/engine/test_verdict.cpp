@@ -274,3 +274,26 @@ TEST(EngineVerdict, AnOverloadedSectionSaysSoFirst)
     EXPECT_EQ(q.told[0].text.rfind("A seção não comporta os esforços: são necessários ", 0), 0u) << q.told[0].text;
     EXPECT_NE(q.told[0].text.find("o máximo é 24.00 cm²"), std::string::npos) << q.told[0].text;
 }
+
+TEST(EngineVerdict, TheStirrupDependsOnTheColumnNotOnThePath)
+{
+    // 25 mm bars fixed, stirrups chosen by the engineer ("Escolha dos estribos", the
+    // least steel: a 5 mm stirrup of the bars' own steel at its own spacing). With d'
+    // empty the cover correction runs the pass again; opened with the corrected d',
+    // the same column is calculated once. Both give the same stirrup.
+    ColumnInput in;
+    in.base = 30, in.depth = 60, in.fixedBarIndex = 9, in.Nd = 150000, in.Md = 3000000;
+    in.stirrupMode = StirrupMode::Manual;
+    in.dLinha.typed = 0;
+    FixedAnswers answers;
+    Memory first;
+    const ColumnResult corrected = calculate(in, answers, first);
+    ASSERT_TRUE(corrected.detailed);
+    ASSERT_GT(corrected.passes, 1);
+    in.dLinha.typed = corrected.design.dLinha;
+    Memory fresh;
+    const ColumnResult opened = calculate(in, answers, fresh);
+    EXPECT_EQ(opened.passes, 1);
+    EXPECT_EQ(corrected.stirrup.text, opened.stirrup.text);
+    EXPECT_EQ(corrected.ok(), opened.ok());
+}
