@@ -3,6 +3,7 @@
 #include "ui/cases_dialog.h"
 #include "ui/interaction_dialog.h"
 #include "ui/main_window.h"
+#include "ui/moment_contour_dialog.h"
 #include "window/policy_dialogs.h"
 
 #include <QAction>
@@ -61,8 +62,9 @@ int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto, QSize
     QWidget* retratado = &janela;
     if (!dialogo.isEmpty()) {
         // The menu's own action, so that the dialog shows what a user would see.
-        const QString acao = dialogo == QStringLiteral("casos") ? QStringLiteral("mnuItemCasos")
-                                                                : QStringLiteral("mnuItemDiagrama");
+        const QString acao = dialogo == QStringLiteral("casos")  ? QStringLiteral("mnuItemCasos")
+                             : dialogo == QStringLiteral("mxmy") ? QStringLiteral("mnuItemDiagramaMxMy")
+                                                                 : QStringLiteral("mnuItemDiagrama");
         QAction* a = janela.findChild<QAction*>(acao);
         if (!a) {
             std::cerr << "pilarix: o menu não tem " << acao.toStdString() << "\n";
@@ -72,6 +74,8 @@ int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto, QSize
         QApplication::processEvents();
         if (dialogo == QStringLiteral("casos"))
             retratado = janela.findChild<CasesDialog*>();
+        else if (dialogo == QStringLiteral("mxmy"))
+            retratado = janela.findChild<MomentContourDialog*>();
         else
             retratado = janela.findChild<InteractionDialog*>();
         if (!retratado) {
