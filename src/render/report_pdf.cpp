@@ -584,7 +584,9 @@ void paintPageFrame(QPainter& p, const report::ReportData& r, int page, int page
     const QRectF foot(left, mm(kPageHeight - 13), right - left, mm(5));
     p.setFont(font(8));
     p.setPen(kGrey);
-    std::string footText = "NBR 6118 (Projeto de revisão da NB1 / 2001), método das zonas de solicitação";
+    // The rule set the column was calculated by.
+    std::string footText = r.norma.empty() ? "NBR 6118 (Projeto de revisão da NB1 / 2001), método das zonas de solicitação"
+                                           : r.norma + ", método das zonas de solicitação";
     if (!r.heading.work.empty())
         footText = "Obra: " + r.heading.work + (r.heading.revision.empty() ? "" : "   Revisão: " + r.heading.revision);
     p.drawText(foot, Qt::AlignLeft | Qt::AlignVCenter, qs(footText));
