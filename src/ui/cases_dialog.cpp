@@ -102,11 +102,14 @@ void CasesDialog::carrega(bool desatualizados)
     const QString um = qs(f.Combo5.Text);
     tabela_->setHorizontalHeaderLabels(
         {QStringLiteral("Nome"), QStringLiteral("Nd (%1)").arg(qs(f.Combo4.Text)),
-         norma2014 ? QStringLiteral("Md topo (%1)").arg(um) : QStringLiteral("Md (%1)").arg(um),
+         norma2014 ? QStringLiteral("Md topo\n(%1)").arg(um) : QStringLiteral("Md (%1)").arg(um),
          QStringLiteral("Md base"), QStringLiteral("My topo"), QStringLiteral("My base"), QStringLiteral("Zona"),
          QStringLiteral("βx"), QStringLiteral("As,nec (cm2)"), QStringLiteral("Utilização")});
     for (int c = kMdBase; c <= kMyBase; ++c)
         tabela_->setColumnHidden(c, !norma2014);
+    // Three more columns need the room to read their headings.
+    if (norma2014 && width() < 960)
+        resize(960, height());
     tabela_->setRowCount(static_cast<int>(p_.OutrosCasos.size()) + 1);
     const auto linha = [&](int i, const CasoDeCarga& c) {
         tabela_->setItem(i, kNome, new QTableWidgetItem(qs(c.nome)));

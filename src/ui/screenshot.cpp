@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QImage>
 #include <QPixmap>
 
 #include <iostream>
@@ -84,8 +85,13 @@ int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto, QSize
         }
         QApplication::processEvents();
     }
-    const QPixmap imagem = retratado->grab();
-    if (!imagem.save(arquivoPng, "PNG")) {
+    // The whole window is flat colours and text: a palette of 256 keeps its picture
+    // small for the documentation without a visible change. A dialog's diagram has
+    // translucent fills that a palette would shift, and keeps every colour.
+    QImage imagem = retratado->grab().toImage();
+    if (dialogo.isEmpty())
+        imagem = imagem.convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither | Qt::AvoidDither);
+    if (!imagem.save(arquivoPng, "PNG", 0)) {
         std::cerr << "pilarix: não foi possível gravar " << arquivoPng.toStdString() << "\n";
         return 1;
     }
