@@ -78,12 +78,18 @@ IMAGENS := $(CURDIR)/docs/imagens
 EXEMPLO := --caso "topo;400;10000" --caso "vento;500;15000" --set Obra="Edifício Exemplo" \
            --set Cliente="Construtora Exemplo" --set Pilar=P1 --set Engenheiro="Eng. Responsável" --set Revisao=R0
 
+# The textbook's 20 × 50 cm column by ABNT NBR 6118:2014, second order in the
+# direction of h, and a wind case with moments at both ends in both directions.
+EXEMPLO2014 := --norma 2014 --set Text1=50 --set Text2=20 --set Text3=4 --set Text4=4 --set Text5=2 \
+           --set Text16=1400 --set Text17=0 --set Text18=30 --set Text21=1.4 --set Text23=280 \
+           --caso "1;1400;0;0;3000;-1500" --caso "vento;1000;2500;-1000;4000;2000"
+
 # In an empty folder, so that the window starts from its built-in defaults and no
 # "Padrão.txt" of the working tree is read or written.
 imagens:
 	@test -x $(BUILD)/pilarix -a -x $(BUILD)/pilarix-cli || $(MAKE) programs
 	@set -e; bin="$$(cd $(BUILD) && pwd)"; tmp="$$(mktemp -d)"; trap 'rm -rf "$$tmp"' EXIT; cd "$$tmp"; \
-	mkdir -p $(IMAGENS); rm -f $(IMAGENS)/memorial-*.png; \
+	mkdir -p $(IMAGENS); rm -f $(IMAGENS)/memorial-*.png $(IMAGENS)/norma2014-memorial-*.png; \
 	export QT_QPA_PLATFORM=offscreen; \
 	QT_SCALE_FACTOR=1 "$$bin/pilarix" --screenshot $(IMAGENS)/janela-1366x768.png --tela 1366x768 2>/dev/null; \
 	QT_SCALE_FACTOR=1.5 "$$bin/pilarix" --screenshot $(IMAGENS)/janela-1366x768-150.png --tela 1366x768 2>/dev/null; \
@@ -92,7 +98,13 @@ imagens:
 	  --memorial memorial.pdf >/dev/null; \
 	"$$bin/pilarix" --screenshot $(IMAGENS)/combinacoes.png casos.txt --dialogo casos 2>/dev/null; \
 	"$$bin/pilarix" --screenshot $(IMAGENS)/combinacoes-diagrama.png casos.txt --dialogo diagrama 2>/dev/null; \
-	pdftoppm -png -r 60 memorial.pdf $(IMAGENS)/memorial
+	pdftoppm -png -r 60 memorial.pdf $(IMAGENS)/memorial; \
+	"$$bin/pilarix-cli" --sem-padrao $(EXEMPLO2014) --salvar norma2014.txt --memorial norma2014.pdf >/dev/null; \
+	QT_SCALE_FACTOR=1 "$$bin/pilarix" --screenshot $(IMAGENS)/norma2014-janela.png norma2014.txt --tela 1366x768 2>/dev/null; \
+	QT_SCALE_FACTOR=1.5 "$$bin/pilarix" --screenshot $(IMAGENS)/norma2014-janela-150.png norma2014.txt --tela 1366x768 2>/dev/null; \
+	"$$bin/pilarix" --screenshot $(IMAGENS)/norma2014-mxmy.png norma2014.txt --dialogo mxmy 2>/dev/null; \
+	"$$bin/pilarix" --screenshot $(IMAGENS)/norma2014-casos.png norma2014.txt --dialogo casos 2>/dev/null; \
+	pdftoppm -png -r 60 -f 2 -l 4 norma2014.pdf $(IMAGENS)/norma2014-memorial
 	@# Every picture the README links is there, and none is heavy.
 	@for f in $$(grep -o '(docs/imagens/[^)]*)' README.md | tr -d '()'); do test -f "$$f" || { echo "falta $$f"; exit 1; }; done
 	@ls -l $(IMAGENS)/*.png | awk '{ if ($$5 > 153600) { print "grande demais: " $$9; bad = 1 } } END { exit bad }'

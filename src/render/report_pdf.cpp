@@ -11,6 +11,7 @@
 #include "export/save_failure.h"
 #include "files/safe_write.h"
 #include "render/interaction_painter.h"
+#include "render/moment_contour_painter.h"
 #include "render/section_painter.h"
 #include "render/whole_file.h"
 
@@ -99,6 +100,7 @@ constexpr double kLeft = 20, kRight = 15, kTop = 24, kBottom = 20;    // the bod
 constexpr double kBodyWidth = kPageWidth - kLeft - kRight;           // 175 mm
 constexpr double kBodyHeight = kPageHeight - kTop - kBottom;         // 253 mm
 constexpr double kDiagramWidth = 165, kDiagramHeight = 112;          // mm
+constexpr double kContourHeight = 130;                               // mm: one scale for Mx and My
 constexpr double kDrawingRoomWidth = 165, kDrawingRoomHeight = 180;  // mm
 constexpr double kDrawingMargin = 4;                                 // mm round the drawing
 
@@ -152,6 +154,12 @@ void paintDiagram(QPainter& p, const QRectF& rect, const report::Diagram& d)
     paintChart(p, chart, layoutChart(chart, rect, style, p.device()), style);
 }
 
+void paintMomentContour(QPainter& p, const QRectF& rect, const report::MomentContour& c)
+{
+    const ChartStyle style{font(7.5), kPainterPixel};
+    paintContour(p, c, layoutContour(c, rect, style, p.device()), style);
+}
+
 // ---- the section's drawing ----
 
 // The painter of the window draws in pixels of 1/96 in: its pens and texts keep the
@@ -180,8 +188,14 @@ public:
         block(blockFormat(0, 0), charFormat(17, true, false, kHeading));
         cursor_.insertText(QStringLiteral("Memorial de cálculo"));
         block(blockFormat(2, 0), charFormat(10));
-        cursor_.insertText(QStringLiteral("Pilar retangular de concreto armado sob flexão normal composta. NBR 6118 "
-                                          "(Projeto de revisão da NB1 / 2001), método das zonas de solicitação."));
+        if (r.norma.empty())
+            cursor_.insertText(QStringLiteral("Pilar retangular de concreto armado sob flexão normal composta. NBR 6118 "
+                                              "(Projeto de revisão da NB1 / 2001), método das zonas de solicitação."));
+        else
+            cursor_.insertText(QStringLiteral("Pilar retangular de concreto armado. %1: esbeltez e 2ª ordem em cada "
+                                              "direção, método das zonas de solicitação, flexão composta oblíqua "
+                                              "verificada por compatibilidade de deformações.")
+                                   .arg(qs(r.norma)));
         const report::Heading& h = r.heading;
         for (const auto& [label, value] : {std::pair{"Obra", &h.work}, std::pair{"Cliente", &h.client},
                                            std::pair{"Pilar", &h.column}, std::pair{"Engenheiro", &h.engineer},
@@ -430,6 +444,18 @@ void compose(const report::ReportData& r, Builder& b)
     }
     for (const auto& s : r.sections)
         b.section(++n, s);
+    for (const auto& s : r.norma2014)
+        b.section(++n, s);
+    if (r.momentContour && r.momentContour->contour.size() >= 3) {
+        const report::MomentContour& c = *r.momentContour;
+        b.figure(QSizeF(mm(kDiagramWidth), mm(kContourHeight)),
+                 [c](QPainter& p, const QRectF& rect) { paintMomentContour(p, rect, c); },
+                 QStringLiteral("Contorno resistente Mx–My da seção detalhada em N_Sd do caso determinante "
+                                "(item 17.2.5), os pontos de cada caso no topo, na base e na seção intermediária "
+                                "(verde com utilização até 100 %, vermelho acima) e a envoltória mínima tracejada "
+                                "(itens 11.3.3.4.3 e 15.3.2): %1.")
+                     .arg(c.inside ? QStringLiteral("dentro do contorno") : QStringLiteral("FORA do contorno")));
+    }
 
     if (r.quantities) {
         const report::Quantities& q = *r.quantities;
@@ -558,7 +584,9 @@ void paintPageFrame(QPainter& p, const report::ReportData& r, int page, int page
     const QRectF foot(left, mm(kPageHeight - 13), right - left, mm(5));
     p.setFont(font(8));
     p.setPen(kGrey);
-    std::string footText = "NBR 6118 (Projeto de revisão da NB1 / 2001), método das zonas de solicitação";
+    // The rule set the column was calculated by.
+    std::string footText = r.norma.empty() ? "NBR 6118 (Projeto de revisão da NB1 / 2001), método das zonas de solicitação"
+                                           : r.norma + ", método das zonas de solicitação";
     if (!r.heading.work.empty())
         footText = "Obra: " + r.heading.work + (r.heading.revision.empty() ? "" : "   Revisão: " + r.heading.revision);
     p.drawText(foot, Qt::AlignLeft | Qt::AlignVCenter, qs(footText));

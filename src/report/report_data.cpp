@@ -6,6 +6,8 @@
 
 #include "report/report_data.h"
 
+#include "report/report_2014.h"
+
 #include "base/number_text.h"
 #include "engine/catalogue.h"
 #include "engine/checks.h"
@@ -665,6 +667,7 @@ bool buildReport(const Program& p, const ReportStamp& stamp, ReportData& out, st
     r.messages = messagesOf(p, r.failed());
     r.verification.title = "Verificação por compatibilidade de deformações";
     verificationSection(p, r);
+    addNorma2014(p, r);
     if (p.Desenho)
         r.drawing = p.Desenho;
     else

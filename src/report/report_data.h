@@ -14,6 +14,7 @@
 
 #include "engine/column.h"
 #include "engine/geometry.h"
+#include "report/moment_contour.h"
 
 #include <optional>
 #include <string>
@@ -151,6 +152,12 @@ struct ReportData {
     std::vector<SolutionLine> solutions; // at most kSolutionsListed
     std::size_t solutionsFound = 0;
     std::string solutionsNote; // why a search's list is left out, when it is
+    // Under ABNT NBR 6118:2014 or 2023 (report_2014.h): the rule set's name, the
+    // slenderness and second order, both directions together and their picture.
+    // Empty for a 2001 calculation, whose report is what it always was.
+    std::string norma;
+    std::vector<Section> norma2014;
+    std::optional<MomentContour> momentContour;
 };
 
 inline constexpr std::size_t kSolutionsListed = 40;

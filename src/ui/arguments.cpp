@@ -5,7 +5,7 @@
 namespace pilarix::ui {
 
 const char* const kUsoDaJanela = "uso: pilarix [PROJETO] | pilarix --screenshot ARQUIVO.png [PROJETO] "
-                                 "[--tela LARGURAxALTURA] [--dialogo diagrama|casos]";
+                                 "[--tela LARGURAxALTURA] [--dialogo diagrama|casos|mxmy]";
 
 Argumentos leArgumentos(const QStringList& args)
 {
@@ -21,7 +21,8 @@ Argumentos leArgumentos(const QStringList& args)
         bool dialogoValido = true;
         if (const auto i = resto.indexOf(QStringLiteral("--dialogo")); i >= 0) {
             a.dialogo = i + 1 < resto.size() ? resto.at(i + 1) : QString();
-            dialogoValido = a.dialogo == QStringLiteral("diagrama") || a.dialogo == QStringLiteral("casos");
+            dialogoValido = a.dialogo == QStringLiteral("diagrama") || a.dialogo == QStringLiteral("casos")
+                            || a.dialogo == QStringLiteral("mxmy");
             resto.remove(i, std::min<qsizetype>(2, resto.size() - i));
         }
         if (resto.isEmpty() || resto.size() > 2 || (args.contains(QStringLiteral("--tela")) && !a.tela.isValid())

@@ -1,7 +1,7 @@
 #pragma once
 // What "pilarix" is asked for on its command line:
 //   pilarix [PROJETO]
-//   pilarix --screenshot ARQUIVO.png [PROJETO] [--tela LARGURAxALTURA] [--dialogo diagrama|casos]
+//   pilarix --screenshot ARQUIVO.png [PROJETO] [--tela LARGURAxALTURA] [--dialogo diagrama|casos|mxmy]
 
 #include <QSize>
 #include <QString>

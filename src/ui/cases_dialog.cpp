@@ -19,7 +19,11 @@
 namespace pilarix::ui {
 
 namespace {
-enum Coluna { kNome, kNd, kMd, kZona, kBetaX, kAsNec, kUtilizacao, kColunas };
+// The moments of the base and of the direction of b are ABNT NBR 6118:2014's: their
+// columns are hidden under the 2001 rule set.
+enum Coluna { kNome, kNd, kMd, kMdBase, kMyTopo, kMyBase, kZona, kBetaX, kAsNec, kUtilizacao, kColunas };
+
+bool momento2014(int coluna) { return coluna == kMdBase || coluna == kMyTopo || coluna == kMyBase; }
 
 QString qs(const std::string& s) { return QString::fromStdString(s); }
 
@@ -94,23 +98,32 @@ void CasesDialog::carrega(bool desatualizados)
     desatualizados_ = desatualizados;
     carregando_ = true;
     const auto& f = p_.Form1;
-    tabela_->setHorizontalHeaderLabels({QStringLiteral("Nome"), QStringLiteral("Nd (%1)").arg(qs(f.Combo4.Text)),
-                                        QStringLiteral("Md (%1)").arg(qs(f.Combo5.Text)), QStringLiteral("Zona"),
-                                        QStringLiteral("βx"), QStringLiteral("As,nec (cm2)"),
-                                        QStringLiteral("Utilização")});
+    const bool norma2014 = p_.norma2014();
+    const QString um = qs(f.Combo5.Text);
+    tabela_->setHorizontalHeaderLabels(
+        {QStringLiteral("Nome"), QStringLiteral("Nd (%1)").arg(qs(f.Combo4.Text)),
+         norma2014 ? QStringLiteral("Md topo\n(%1)").arg(um) : QStringLiteral("Md (%1)").arg(um),
+         QStringLiteral("Md base"), QStringLiteral("My topo"), QStringLiteral("My base"), QStringLiteral("Zona"),
+         QStringLiteral("βx"), QStringLiteral("As,nec (cm2)"), QStringLiteral("Utilização")});
+    for (int c = kMdBase; c <= kMyBase; ++c)
+        tabela_->setColumnHidden(c, !norma2014);
+    // Three more columns need the room to read their headings.
+    if (norma2014 && width() < 960)
+        resize(960, height());
     tabela_->setRowCount(static_cast<int>(p_.OutrosCasos.size()) + 1);
-    const auto linha = [&](int i, const std::string& nome, const std::string& nd, const std::string& md) {
-        tabela_->setItem(i, kNome, new QTableWidgetItem(qs(nome)));
-        tabela_->setItem(i, kNd, new QTableWidgetItem(qs(nd)));
-        tabela_->setItem(i, kMd, new QTableWidgetItem(qs(md)));
-        for (int c = kZona; c < kColunas; ++c)
-            tabela_->setItem(i, c, resultado(QString()));
+    const auto linha = [&](int i, const CasoDeCarga& c) {
+        tabela_->setItem(i, kNome, new QTableWidgetItem(qs(c.nome)));
+        tabela_->setItem(i, kNd, new QTableWidgetItem(qs(c.nd)));
+        tabela_->setItem(i, kMd, new QTableWidgetItem(qs(c.md)));
+        tabela_->setItem(i, kMdBase, new QTableWidgetItem(qs(c.mdBase)));
+        tabela_->setItem(i, kMyTopo, new QTableWidgetItem(qs(c.myTopo)));
+        tabela_->setItem(i, kMyBase, new QTableWidgetItem(qs(c.myBase)));
+        for (int k = kZona; k < kColunas; ++k)
+            tabela_->setItem(i, k, resultado(QString()));
     };
-    linha(0, p_.NomeDoCaso1, f.Text16.Text, f.Text17.Text);
-    for (std::size_t i = 0; i < p_.OutrosCasos.size(); ++i) {
-        const auto& c = p_.OutrosCasos[i];
-        linha(static_cast<int>(i) + 1, c.nome, c.nd, c.md);
-    }
+    linha(0, {p_.NomeDoCaso1, f.Text16.Text, f.Text17.Text, f.MdBase.Text, f.MyTopo.Text, f.MyBase.Text});
+    for (std::size_t i = 0; i < p_.OutrosCasos.size(); ++i)
+        linha(static_cast<int>(i) + 1, p_.OutrosCasos[i]);
     // The results of the last calculation with these cases.
     // After an edit they stay, greyed, on the rows they were calculated for.
     const auto& r = p_.ResultadosDosCasos;
@@ -157,7 +170,12 @@ void CasesDialog::editou(int linha, int coluna)
     auto* item = tabela_->item(linha, coluna);
     if (!item)
         return;
-    if (coluna == kNd || coluna == kMd) {
+    if (momento2014(coluna) && item->text().trimmed().isEmpty()) {
+        // An empty end moment is none, as in the main window.
+        carregando_ = true;
+        item->setText(QString());
+        carregando_ = false;
+    } else if (coluna == kNd || coluna == kMd || momento2014(coluna)) {
         const QString n = numeroNormalizado(item->text());
         if (n.isEmpty()) {
             avisa(QStringLiteral("Linha %1: \"%2\" não é um número (use vírgula ou ponto decimal).")
@@ -189,9 +207,13 @@ void CasesDialog::guarda()
     p_.NomeDoCaso1 = texto(0, kNome);
     p_.Form1.Text16.Text = texto(0, kNd);
     p_.Form1.Text17.Text = texto(0, kMd);
+    p_.Form1.MdBase.Text = texto(0, kMdBase);
+    p_.Form1.MyTopo.Text = texto(0, kMyTopo);
+    p_.Form1.MyBase.Text = texto(0, kMyBase);
     p_.OutrosCasos.clear();
     for (int i = 1; i < tabela_->rowCount(); ++i)
-        p_.OutrosCasos.push_back({texto(i, kNome), texto(i, kNd), texto(i, kMd)});
+        p_.OutrosCasos.push_back({texto(i, kNome), texto(i, kNd), texto(i, kMd), texto(i, kMdBase), texto(i, kMyTopo),
+                                  texto(i, kMyBase)});
     // The results stay, greyed by the window, until the next calculation.
     mudou();
 }
@@ -199,7 +221,12 @@ void CasesDialog::guarda()
 void CasesDialog::adiciona()
 {
     const auto n = p_.OutrosCasos.size() + 2;
-    p_.OutrosCasos.push_back({std::to_string(n), p_.Form1.Text16.Text, p_.Form1.Text17.Text});
+    const auto& f = p_.Form1;
+    if (p_.norma2014())
+        p_.OutrosCasos.push_back({std::to_string(n), f.Text16.Text, f.Text17.Text, f.MdBase.Text, f.MyTopo.Text,
+                                  f.MyBase.Text});
+    else
+        p_.OutrosCasos.push_back({std::to_string(n), f.Text16.Text, f.Text17.Text});
     mudou();
     // The cursor in the new row's name, ready to be typed over.
     tabela_->setCurrentCell(tabela_->rowCount() - 1, kNome);
@@ -245,10 +272,22 @@ bool CasesDialog::cola(const QString& texto)
         QStringList campos = l.split(QLatin1Char('\t'));
         if (campos.size() == 2)
             campos.prepend(QString::number(p_.OutrosCasos.size() + novos.size() + 2));
-        const QString nd = campos.size() == 3 ? numeroNormalizado(campos[1]) : QString();
-        const QString md = campos.size() == 3 ? numeroNormalizado(campos[2]) : QString();
-        const QString nome = campos.size() == 3 ? campos[0].trimmed() : QString();
-        if (nd.isEmpty() || md.isEmpty() || nome.isEmpty() || nome.contains(QLatin1Char(','))
+        // Under 2014 a row may go on with Md at the base, My at the top and at the
+        // base; a cell left empty is no moment.
+        const bool extras = p_.norma2014() && campos.size() > 3 && campos.size() <= 6;
+        QStringList momentos;
+        bool momentosOk = true;
+        for (int k = 3; extras && k < 6; ++k) {
+            const QString c = k < campos.size() ? campos[k].trimmed() : QString();
+            const QString n = c.isEmpty() ? QString() : numeroNormalizado(c);
+            momentosOk = momentosOk && (c.isEmpty() || !n.isEmpty());
+            momentos << n;
+        }
+        const bool formato = campos.size() == 3 || extras;
+        const QString nd = formato ? numeroNormalizado(campos[1]) : QString();
+        const QString md = formato ? numeroNormalizado(campos[2]) : QString();
+        const QString nome = formato ? campos[0].trimmed() : QString();
+        if (nd.isEmpty() || md.isEmpty() || !momentosOk || nome.isEmpty() || nome.contains(QLatin1Char(','))
             || nome.contains(QLatin1Char(';'))) {
             avisa(QStringLiteral("Linha %1 colada não é um caso (nome, Nd e Md separados por tabulação): \"%2\". "
                                  "Nada foi colado.")
@@ -256,7 +295,11 @@ bool CasesDialog::cola(const QString& texto)
                       .arg(l));
             return false;
         }
-        novos.push_back({nome.toStdString(), nd.toStdString(), md.toStdString()});
+        if (extras)
+            novos.push_back({nome.toStdString(), nd.toStdString(), md.toStdString(), momentos[0].toStdString(),
+                             momentos[1].toStdString(), momentos[2].toStdString()});
+        else
+            novos.push_back({nome.toStdString(), nd.toStdString(), md.toStdString()});
     }
     if (novos.empty()) {
         avisa(QStringLiteral("Não há casos para colar."));

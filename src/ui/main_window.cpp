@@ -12,6 +12,7 @@
 #include "ui/input_edit.h"
 #include "ui/input_tips.h"
 #include "ui/interaction_dialog.h"
+#include "ui/norma2014_panel.h"
 #include "ui/other_values_dialog.h"
 #include "ui/project_data_dialog.h"
 #include "ui/qt_dialogs.h"
@@ -296,8 +297,10 @@ QComboBox* MainWindow::lista(ComboBox& m, const QString& nome, const QString& ro
     auto* c = new QComboBox;
     c->setObjectName(nome);
     c->setEditable(false);
+    // The model's text is the item's data: a list may word its entries for the
+    // engineer ("rigidez κ") and still keep the program's text.
     for (const auto& s : m.List)
-        c->addItem(qs(s));
+        c->addItem(qs(s), qs(s));
     filtroNenhum_->instala(c);
     listas_.emplace_back(&m, c);
     rotulos_[c] = rotuloLista;
@@ -416,6 +419,8 @@ void MainWindow::montaMenus()
                             [this] { abreCasos(); }));
     valores->addAction(acao(QStringLiteral("&Diagrama de interação"), QStringLiteral("mnuItemDiagrama"),
                             [this] { abreDiagrama(); }));
+    valores->addAction(acao(QStringLiteral("Diagrama &Mx–My (ABNT NBR 6118:2014)"), QStringLiteral("mnuItemDiagramaMxMy"),
+                            [this] { abreDiagramaMxMy(); }));
 
     auto* ajuda = menuBar()->addMenu(QStringLiteral("Aj&uda"));
     ajuda->setObjectName(QStringLiteral("mnuAjuda"));
@@ -529,6 +534,7 @@ QWidget* MainWindow::montaEntradas()
     ge->addWidget(c1, linha, 1, 1, 2);
     ge->setColumnStretch(2, 1);
     v->addWidget(esf);
+    montaNorma2014(v);
     v->addStretch();
     coluna->setFixedWidth(300);
     return coluna;
@@ -600,6 +606,7 @@ QWidget* MainWindow::montaOpcoes()
     gg->addWidget(o90);
     gg->addWidget(o45);
     v->addWidget(gan);
+    v->addWidget(norma2014_); // made with the rule set's row in montaEntradas
     v->addStretch();
     coluna->setFixedWidth(270);
     return coluna;
@@ -708,6 +715,7 @@ QWidget* MainWindow::montaResultados()
     gz->addWidget(rotulo(QStringLiteral("cm")), 2, 2);
     gz->setColumnStretch(3, 1);
     v->addWidget(zon);
+    v->addWidget(montaEsbeltez());
 
     // The detailed section checked by strain compatibility, whatever the zones method said.
     auto* ver = quadro("Verificação", "FrameVerificacao");
@@ -820,9 +828,9 @@ void MainWindow::montaOrdemDeTab()
     // Tab follows the reading order of the frames, from box to box; the "-" / "+"
     // buttons and the bar list are for the mouse.
     const char* ordem[] = {
-        "Text1",   "Text31",  "Text2",    "Text32",   "Text23",   "Text4",    "Text5",  "Text3",
+        "Norma", "Text1",   "Text31",  "Text2",    "Text32",   "Text23",   "Text4",    "Text5",  "Text3",
         "Command17", "Check3", "Text16",  "Combo4",   "Text17",   "Combo5",   "Text18", "Combo6",
-        "Text20",  "Combo7",  "Text21",   "Text22",   "Combo1",   "Option1",  "Option2", "Combo2",
+        "Text20",  "Combo7",  "Text21",   "Text22",   "Combo1", "SegundaOrdem", "LeH", "LeB", "MyTopo", "MdBase", "MyBase",   "Option1",  "Option2", "Combo2",
         "Check1",  "Check2",  "Option3",  "Combo3",   "Option5",  "Option6",  "Check5", "Option7(1)",
         "Option7(0)", "Text6", "AjustarDesenho", "Command1", "Command8", "Command10", "Command9", "Command11",
         "Command7", "Command6",
@@ -850,7 +858,7 @@ void MainWindow::copiaParaModelo()
     // model's text instead of blanking it.
     for (auto& [m, c] : listas_)
         if (c->currentIndex() >= 0)
-            m->Text = c->currentText().toStdString();
+            m->Text = c->currentData().toString().toStdString();
     for (auto& [m, c] : marcas_)
         m->Value = c->checkState() == Qt::Checked ? 1 : c->checkState() == Qt::PartiallyChecked ? 2 : 0;
     for (auto& [m, r] : opcoes_)
@@ -890,7 +898,7 @@ void MainWindow::atualiza()
             bitolas_[i]->setStyleSheet(estilo);
     }
     for (auto& [m, c] : listas_) {
-        c->setCurrentIndex(c->findText(qs(m->Text), Qt::MatchExactly | Qt::MatchCaseSensitive));
+        c->setCurrentIndex(c->findData(qs(m->Text), Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive));
         c->setEnabled(m->Enabled);
     }
     for (auto& [m, c] : marcas_) {
@@ -1618,6 +1626,7 @@ void MainWindow::mostraVerificacao()
         diagrama_->setWindowTitle(desatualizado_ ? QStringLiteral("Diagrama de interação (desatualizado)")
                                                  : QStringLiteral("Diagrama de interação"));
     }
+    mostra2014();
 }
 
 void MainWindow::abreDiagrama()

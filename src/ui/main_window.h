@@ -51,6 +51,9 @@ class SolutionsDialog;
 class InteractionDialog;
 class CasesDialog;
 class HelpDialog;
+class Norma2014Panel;
+class Norma2014Results;
+class MomentContourDialog;
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -110,6 +113,8 @@ public slots:
     void exportaDesenho();
     void abreDiagrama();
     void abreCasos();
+    // "Diagrama Mx–My" under ABNT NBR 6118:2014 (main_window_2014.cpp).
+    void abreDiagramaMxMy();
     // Ctrl+P: the calculation report.
     void imprimeMemorial();
 
@@ -128,6 +133,13 @@ private:
     QWidget* montaBotoes();
     void montaOrdemDeTab();
     void montaDicas();
+    // ABNT NBR 6118:2014 (main_window_2014.cpp): the rule set's row and frame (the
+    // frame is placed by montaOpcoes), the
+    // results frame, γc proposed with the rule set, and their refresh.
+    void montaNorma2014(QBoxLayout* entradas);
+    QWidget* montaEsbeltez();
+    void propoeGamaC(int indiceDaNorma);
+    void mostra2014();
 
     QLineEdit* caixa(TextBox& m, const QString& nome, Teclas regra, int largura, const QString& rotulo);
     QLineEdit* resultado(TextBox& m, const QString& nome, int largura);
@@ -202,6 +214,9 @@ private:
     QPointer<SolutionsDialog> solucoes_;
     QPointer<InteractionDialog> diagrama_;
     QPointer<CasesDialog> casos_;
+    Norma2014Panel* norma2014_ = nullptr;
+    Norma2014Results* esbeltez_ = nullptr;
+    QPointer<MomentContourDialog> diagramaMxMy_;
     std::string nomeProposto() const;
     QPointer<HelpDialog> ajuda_;
     QLineEdit* utilizacao_ = nullptr;

@@ -3,10 +3,12 @@
 #include "ui/cases_dialog.h"
 #include "ui/interaction_dialog.h"
 #include "ui/main_window.h"
+#include "ui/moment_contour_dialog.h"
 #include "window/policy_dialogs.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QImage>
 #include <QPixmap>
 
 #include <iostream>
@@ -61,8 +63,9 @@ int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto, QSize
     QWidget* retratado = &janela;
     if (!dialogo.isEmpty()) {
         // The menu's own action, so that the dialog shows what a user would see.
-        const QString acao = dialogo == QStringLiteral("casos") ? QStringLiteral("mnuItemCasos")
-                                                                : QStringLiteral("mnuItemDiagrama");
+        const QString acao = dialogo == QStringLiteral("casos")  ? QStringLiteral("mnuItemCasos")
+                             : dialogo == QStringLiteral("mxmy") ? QStringLiteral("mnuItemDiagramaMxMy")
+                                                                 : QStringLiteral("mnuItemDiagrama");
         QAction* a = janela.findChild<QAction*>(acao);
         if (!a) {
             std::cerr << "pilarix: o menu não tem " << acao.toStdString() << "\n";
@@ -72,6 +75,8 @@ int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto, QSize
         QApplication::processEvents();
         if (dialogo == QStringLiteral("casos"))
             retratado = janela.findChild<CasesDialog*>();
+        else if (dialogo == QStringLiteral("mxmy"))
+            retratado = janela.findChild<MomentContourDialog*>();
         else
             retratado = janela.findChild<InteractionDialog*>();
         if (!retratado) {
@@ -80,8 +85,13 @@ int salvaImagemDaJanela(const QString& arquivoPng, const QString& projeto, QSize
         }
         QApplication::processEvents();
     }
-    const QPixmap imagem = retratado->grab();
-    if (!imagem.save(arquivoPng, "PNG")) {
+    // The whole window is flat colours and text: a palette of 256 keeps its picture
+    // small for the documentation without a visible change. A dialog's diagram has
+    // translucent fills that a palette would shift, and keeps every colour.
+    QImage imagem = retratado->grab().toImage();
+    if (dialogo.isEmpty())
+        imagem = imagem.convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither | Qt::AvoidDither);
+    if (!imagem.save(arquivoPng, "PNG", 0)) {
         std::cerr << "pilarix: não foi possível gravar " << arquivoPng.toStdString() << "\n";
         return 1;
     }

@@ -89,8 +89,8 @@ TEST(UiCasos, AfterACalculationEachCaseShowsItsResultsAndTheGoverningOne)
     auto* t = c.dialogo.tabela();
     EXPECT_TRUE(t->item(1, 0)->font().bold()) << "the wind case needs the most steel";
     EXPECT_FALSE(t->item(0, 0)->font().bold());
-    EXPECT_EQ(t->item(1, 3)->text(), QStringLiteral("2 (C)"));
-    EXPECT_TRUE(t->item(2, 6)->text().endsWith(QStringLiteral("%")));
+    EXPECT_EQ(t->item(1, 6)->text(), QStringLiteral("2 (C)"));
+    EXPECT_TRUE(t->item(2, 9)->text().endsWith(QStringLiteral("%")));
 }
 
 // ---- in the main window ----

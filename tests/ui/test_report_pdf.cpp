@@ -1,6 +1,7 @@
 // The calculation report as a reader of the PDF finds it: poppler's pdftotext,
 // pdfinfo, pdffonts and pdftoppm read the file back, not what the painter meant.
 
+#include "base/number_text.h"
 #include "cli/cli.h"
 #include "cli/controls_by_name.h"
 #include "render/report_pdf.h"
@@ -314,4 +315,35 @@ TEST(ReportPdf, CommandLineWritesTheReportOfItsRunAndSearch)
     EXPECT_EQ(runCli({"--sem-padrao", "--memorial", bad}, out2, err2, {}, writer), 2);
     EXPECT_EQ(err2.str().rfind("pilarix-cli: Não foi possível gravar o arquivo \"" + bad + "\"", 0), 0u) << err2.str();
     EXPECT_EQ(count(err2.str(), "\n"), 1u);
+}
+
+TEST(ReportPdf, A2014ColumnHasItsRuleSetSlendernessObliqueCheckAndMxMyPicture)
+{
+    QTemporaryDir dir;
+    const Column c({{"Norma", "2014"}, {"Text1", "50"}, {"Text2", "20"}, {"Text3", "4"}, {"Text4", "4"},
+                    {"Text5", "2"}, {"Text16", "1400"}, {"Text17", "0"}, {"Text18", "30"}, {"Text21", "1.4"},
+                    {"Text23", "280"}, {"MyTopo", "3000"}});
+    ASSERT_TRUE(c.program.Resultado2014 && c.program.Resultado2014->oblique);
+    const auto& o = *c.program.Resultado2014->oblique;
+    const Written w = write(c.program, dir, "norma2014.pdf");
+    expectInOrder(w.text, {"ABNT NBR 6118:2014: esbeltez e 2ª ordem", "Norma: ABNT NBR 6118:2014",
+                           "Esbeltez e efeitos locais de 2ª ordem (ABNT NBR 6118:2014)", "item 13.2.3",
+                           "Direção de h", "λ = 3.46 ℓe / h: 48.44", "M1d,mín = Nd (1.5 + 0.03 h): 2940 KN.cm",
+                           "M2d: 2379 KN.cm", "Direção de b", "Flexão composta oblíqua (ABNT NBR 6118:2014)",
+                           "Utilização (o ponto mais solicitado): " + Format(100 * o.utilisation, "##0.0") + " %",
+                           "Margem da envoltória (contorno / elipse, a menor): " + Format(o.envelope.margin, "##0.000"),
+                           "Contorno resistente Mx–My"},
+                   false);
+    EXPECT_EQ(w.text.find("Projeto de revisão da NB1 / 2001"), std::string::npos);
+}
+
+TEST(ReportPdf, A2001ReportHasNothingOf2014)
+{
+    QTemporaryDir dir;
+    const Column c;
+    const Written w = write(c.program, dir, "padrao2001.pdf");
+    for (const char* part : {"Norma:", "ABNT NBR 6118:2014", "Mx–My", "Esbeltez", "oblíqua"})
+        EXPECT_EQ(w.text.find(part), std::string::npos) << part;
+    EXPECT_NE(w.text.find("NBR 6118 (Projeto de revisão da NB1 / 2001), método das zonas de solicitação."),
+              std::string::npos);
 }

@@ -126,8 +126,8 @@ TEST(UiCasos, TheGoverningCaseIsNamedBesideTheResultsAndAnEditGreysTheTable)
     // An edited case keeps the old results on show, greyed.
     casos->tabela()->item(2, 1)->setText(QStringLiteral("650"));
     EXPECT_TRUE(j.w.desatualizado());
-    EXPECT_FALSE(casos->tabela()->item(1, 3)->text().isEmpty());
-    EXPECT_EQ(casos->tabela()->item(1, 3)->foreground().color(), QColor(150, 150, 150));
+    EXPECT_FALSE(casos->tabela()->item(1, 6)->text().isEmpty());
+    EXPECT_EQ(casos->tabela()->item(1, 6)->foreground().color(), QColor(150, 150, 150));
 }
 
 TEST(UiVeredito, AFailedDesignIsNeitherGreenNorDrawnNorExportedAsValid)

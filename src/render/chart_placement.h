@@ -1,0 +1,59 @@
+#pragma once
+// What the charts of the report and the window share in placing their texts: the
+// round-number axes, the things a label must keep clear of (other labels, markers,
+// a curve; axes and rays better avoided), and the first free place about a point,
+// near then farther, for the fullest of a label's texts that fits. The N–M diagram
+// (interaction_painter.h) and the Mx–My contour (moment_contour_painter.h) both
+// place their labels with it, so that neither puts a text over another.
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace pilarix::render::placement {
+
+struct Axis {
+    double lo = -1, hi = 1, step = 0.5;
+    std::vector<double> ticks;
+};
+
+// An axis over [lo, hi] (which holds 0) with ticks at the multiples of a round step,
+// 1, 2, 2.5 or 5 times a power of ten, about one per `perTick` device units. The ends
+// are not rounded out to ticks: that could leave a quarter of the frame empty.
+Axis niceAxis(double lo, double hi, double length, double perTick);
+
+// As many decimals as the step needs: 0.25 two, 2.5 one, 500 none.
+int decimalsFor(double step);
+QString tickText(double v, int decimals);
+double widestLabel(const QFontMetricsF& fm, const Axis& a);
+QFont bold(const QFont& f);
+
+bool segmentMeetsRect(QPointF a, QPointF b, const QRectF& r);
+
+struct Obstacles {
+    std::vector<QRectF> hard;                      // labels and markers
+    std::vector<QPointF> curve;                    // closed polyline
+    std::vector<std::pair<QPointF, QPointF>> soft; // axes and rays: better avoided
+
+    bool blocks(const QRectF& r, bool withSoft) const;
+};
+
+QRectF textRect(const QFontMetricsF& fm, const QString& text);
+
+// The eight places about a point, near then farther, the first preferred: above
+// right, as a reader looks for a name.
+std::vector<QRectF> placesAround(QPointF p, double radius, QSizeF size, double gap, bool nearOnly);
+
+// The first free place for one of the texts, the fullest first; none where nothing fits.
+std::optional<std::pair<QRectF, int>> firstFree(const std::vector<QString>& texts, const QFontMetricsF& fm,
+                                                QPointF at, double radius, double gap, const QRectF& room,
+                                                const Obstacles& obstacles, bool nearOnly = false);
+
+} // namespace pilarix::render::placement
