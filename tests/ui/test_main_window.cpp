@@ -225,7 +225,9 @@ TEST(UiDialogosReais, StirrupChoiceDialogDecidesTheStirrup)
         auto* manual = w.findChild<QRadioButton*>(QStringLiteral("Option6"));
         QTest::mouseClick(manual, Qt::LeftButton, {}, QPoint(5, manual->height() / 2));
         auto* nd = w.findChild<QLineEdit*>(QStringLiteral("Text16"));
-        nd->setText(QStringLiteral("2500"));
+        // 20 x 80 under 3500 kN: 32 mm bars, within the 4 % a section may hold.
+        nd->setText(QStringLiteral("3500"));
+        w.findChild<QLineEdit*>(QStringLiteral("Text2"))->setText(QStringLiteral("80"));
         w.findChild<QLineEdit*>(QStringLiteral("Text3"))->setText(QStringLiteral("6"));
         std::vector<std::string> opcoes;
         std::string label1;
