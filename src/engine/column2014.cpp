@@ -227,6 +227,31 @@ Column2014Result calculate2014(const ColumnInput& given, const std::vector<Case2
         told.tell(r.failures.back());
     }
 
+    // The bars held against buckling (18.2.4): by a corner of the stirrup, at most two
+    // within 20 φt of it; by a supplementary stirrup the calculation placed; or within
+    // 20 φt of a bar so tied, as a tie's hook holds its neighbours like a corner.
+    {
+        const double d = r.detail.design.dLinha, reach = 20 * r.detail.stirrup.diameter;
+        auto unheld = [&](double faceLength, int bars, const VbArray<TieFlag, 1, 500>& flags) {
+            const FaceTies2014 t = faceTies2014(faceLength, d, bars, r.detail.stirrup.diameter);
+            auto tied = [&](int i) { return i >= 0 && i < bars && i < 500 && flags(i + 1) == TieFlag::Tie; };
+            int n = 0;
+            for (int i = 0; i < bars; ++i) {
+                bool held = t.held[static_cast<std::size_t>(i)] || tied(i);
+                for (int k = 1; !held && k <= 2 && k * t.axisSpacing <= reach + 1e-9; ++k)
+                    held = tied(i - k) || tied(i + k);
+                n += held ? 0 : 1;
+            }
+            return n;
+        };
+        const int n = unheld(column.base, static_cast<int>(column.barsOnWidthFace), state.SupH)
+                      + unheld(column.depth, column.barsOnDepthFace, state.SupV);
+        if (n > 0) {
+            r.failures.push_back(fromCheck2014(checks2014::supplementaryStirrupsNeeded(n, reach)));
+            told.tell(r.failures.back());
+        }
+    }
+
     // The nominal cover is at least the bar (7.4.7.5), a rule of 2014's own.
     if (r.detail.cover.nominal + 1e-9 < r.detail.bar->diameter) {
         r.failures.push_back(
