@@ -69,6 +69,33 @@ Check envelopeNotCarried(const MinimumEnvelope& e)
 
 } // namespace
 
+bool surelyCarried(const std::vector<CaseResult2014>& cases, double g,
+                   const std::vector<std::pair<double, double>>& capacities)
+{
+    for (std::size_t i = 0; i < cases.size() && i < capacities.size(); ++i) {
+        const CaseResult2014& c = cases[i];
+        AxisCapacities axis;
+        axis.inRange = true;
+        axis.mRdxx = capacities[i].first;
+        axis.mRdyy = capacities[i].second;
+        if (!(axis.mRdxx > 0) || !(axis.mRdyy > 0))
+            return false;
+        const Case2014& k = c.loadCase;
+        if (interaction(g * k.MdTop, g * k.MyTop, axis, 1) > kSurelyInside
+            || interaction(g * k.MdBase, g * k.MyBase, axis, 1) > kSurelyInside)
+            return false;
+        if ((c.h.slenderness.secondOrder || c.b.slenderness.secondOrder)
+            && interaction(intermediate(c.h.slenderness), intermediate(c.b.slenderness), axis, 1) > kSurelyInside)
+            return false;
+        if (c.nSd > 0
+            && std::hypot(envelopeSemiAxis(c.h.slenderness) / axis.mRdxx,
+                          envelopeSemiAxis(c.b.slenderness) / axis.mRdyy)
+                   > kSurelyInside)
+            return false;
+    }
+    return capacities.size() >= cases.size();
+}
+
 ObliqueCheck checkOblique(const ColumnInput& column, const Column2014Result& r, ConcreteRules rules)
 {
     if (r.refusal || !r.detail.detailed || !r.detail.bar || r.cases.empty())

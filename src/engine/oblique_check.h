@@ -63,4 +63,11 @@ ObliqueCheck checkOblique(const ColumnInput& column, const Column2014Result& res
 ObliqueCheck checkOblique(const BiaxialSection& section, const std::vector<CaseResult2014>& cases, double gammaN,
                           int governing, bool withContour);
 
+// The search's quick answer from the capacities about each axis alone at each case's N
+// (M_Rd,xx and M_Rd,yy, both positive): true where every point and every ellipse of
+// the minimum moments lies well inside the rhombus they make, and so inside the
+// contour; false where only the exact check can tell.
+bool surelyCarried(const std::vector<CaseResult2014>& cases, double gammaN,
+                   const std::vector<std::pair<double, double>>& capacities);
+
 } // namespace pilarix::engine
