@@ -1,5 +1,6 @@
 #include "engine/column2014.h"
 
+#include "engine/biaxial.h"
 #include "engine/class_law_design.h"
 #include "engine/clauses2014.h"
 #include "engine/interaction.h"
@@ -205,10 +206,23 @@ Column2014Result calculate2014(const ColumnInput& given, const std::vector<Case2
             rectangularColumn(column.depth, column.base, r.detail.design.dLinha, column.barsOnDepthFace,
                               static_cast<int>(column.barsOnWidthFace), r.detail.bar->barArea,
                               r.detail.design.concrete, r.detail.design.steel);
+        // Above C50, and with ηc of 2023 above C40, the concrete is the class's own:
+        // each direction is then checked on the section bar by bar, at its N.
+        const bool ownLaw = column.fck > kZonesMethodUpTo || (concrete == ConcreteRules::Nbr2023 && column.fck > 400);
+        std::optional<BiaxialSection> barByBar;
+        if (ownLaw)
+            barByBar = biaxialColumn(column.base, column.depth, r.detail.design.dLinha, column.barsOnWidthFace,
+                                     column.barsOnDepthFace, r.detail.bar->barArea, r.detail.design.concrete,
+                                     r.detail.design.steel, concrete);
         for (std::size_t i = 0; i < r.cases.size(); ++i) {
             CaseResult2014& c = r.cases[i];
-            c.h.utilisation = utilisation(alongH, c.nSd, c.h.slenderness.totalMoment).ratio;
-            c.b.utilisation = utilisation(alongB, c.nSd, c.b.slenderness.totalMoment).ratio;
+            if (barByBar) {
+                c.h.utilisation = utilisationAtN(*barByBar, c.nSd, c.h.slenderness.totalMoment, 0).ratio;
+                c.b.utilisation = utilisationAtN(*barByBar, c.nSd, 0, c.b.slenderness.totalMoment).ratio;
+            } else {
+                c.h.utilisation = utilisation(alongH, c.nSd, c.h.slenderness.totalMoment).ratio;
+                c.b.utilisation = utilisation(alongB, c.nSd, c.b.slenderness.totalMoment).ratio;
+            }
             const bool own = static_cast<int>(i) == r.governingCase;
             struct Seen {
                 const Direction2014* d;
