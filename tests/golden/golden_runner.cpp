@@ -3,6 +3,8 @@
 #include "cli/cli.h"
 #include "cli/controls_by_name.h"
 
+#include <nlohmann/json.hpp>
+
 #include <cstdio>
 #include <map>
 #include <sstream>
@@ -26,6 +28,18 @@ std::vector<std::string> split(const std::string& s, char sep)
     }
 }
 
+// What a user sees of a run: every part of the JSON but the method's own variables
+// ("estado"), which follow the method step by step and may change while nothing
+// shown does. Text that is not one JSON document is kept as it is.
+std::string seen(const std::string& json)
+{
+    nlohmann::ordered_json doc = nlohmann::ordered_json::parse(json, nullptr, false);
+    if (doc.is_discarded() || !doc.is_object())
+        return json;
+    doc.erase("estado");
+    return doc.dump(1);
+}
+
 // Items "Control=Value" are --set assignments; "--option=value" is an option and its
 // value. Every run is --sem-padrao --json.
 std::string runCliLine(const std::string& payload)
@@ -45,7 +59,7 @@ std::string runCliLine(const std::string& payload)
     args.push_back("--json");
     std::ostringstream out, err;
     const int status = runCli(args, out, err);
-    return out.str() + "\nstatus " + std::to_string(status) + "\n" + err.str();
+    return seen(out.str()) + "\nstatus " + std::to_string(status) + "\n" + err.str();
 }
 
 // One action of the window, by the name the corpus gives it.
@@ -92,7 +106,9 @@ std::string runSession(const std::string& payload)
                 throw std::runtime_error("bad assignment in the golden corpus: " + parts[i] + " " + error);
         }
         act(p, parts[0]);
-        shown += documentJson(p, dialogs, true).dump(1) + "\n";
+        nlohmann::ordered_json doc = documentJson(p, dialogs, true);
+        doc.erase("estado");
+        shown += doc.dump(1) + "\n";
         dialogs.records.clear();
     }
     return shown;
@@ -116,6 +132,53 @@ bool parseLine(const std::string& line, CorpusLine& out)
 std::string runLine(const CorpusLine& line)
 {
     return line.kind == 'C' ? runCliLine(line.payload) : runSession(line.payload);
+}
+
+namespace {
+// One line a value, by its path; long arrays of numbers (curves, contours) by their
+// size and ends, so that a readable text stays short.
+void flatten(const nlohmann::ordered_json& j, const std::string& path, std::string& out)
+{
+    constexpr std::size_t kLongArray = 12;
+    if (j.is_object()) {
+        for (const auto& [key, value] : j.items())
+            flatten(value, path.empty() ? key : path + "." + key, out);
+    } else if (j.is_array()) {
+        if (j.size() > kLongArray && !j.front().is_object()) {
+            out += path + ": " + std::to_string(j.size()) + " valores, de " + j.front().dump() + " a " + j.back().dump()
+                   + "\n";
+            return;
+        }
+        for (std::size_t i = 0; i < j.size(); ++i)
+            flatten(j[i], path + "[" + std::to_string(i) + "]", out);
+    } else {
+        out += path + ": " + j.dump() + "\n";
+    }
+}
+} // namespace
+
+std::string readable(const std::string& shown)
+{
+    std::string out;
+    // The documents one after another (a session shows one a step), then the rest.
+    nlohmann::ordered_json::parser_callback_t none = nullptr;
+    const std::string& all = shown;
+    std::size_t at = 0;
+    int step = 0;
+    while (at < all.size() && all[at] == '{') {
+        // Each document ends at the first line that is exactly "}".
+        const auto end = all.find("\n}", at);
+        const std::size_t stop = end == std::string::npos ? all.size() : end + 2;
+        const auto doc = nlohmann::ordered_json::parse(all.substr(at, stop - at), none, false);
+        if (doc.is_discarded())
+            break;
+        out += "== " + std::to_string(++step) + "\n";
+        flatten(doc, "", out);
+        at = stop;
+        while (at < all.size() && all[at] == '\n')
+            ++at;
+    }
+    return out + all.substr(at);
 }
 
 std::string digest(std::string_view bytes)

@@ -3,6 +3,11 @@
 // was written. A change of code that changes nothing a user sees passes; any other
 // fails here, naming the line.
 //
+// What is compared is what a user sees (the boxes, the messages, the verification,
+// the cases, the solutions, the 2014 objects), not the method's own variables. Every
+// tenth line also keeps a readable text (golden/legivel/N.txt), and a failure there
+// shows the lines that moved.
+//
 // To accept an intended change, rewrite the digests from the code as it stands:
 //   PILARIX_GOLDEN_WRITE=1 ./core_tests --gtest_filter='Golden*'
 // and say in the commit what changed and why.
@@ -12,13 +17,49 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <algorithm>
 #include <fstream>
+#include <iterator>
+#include <sstream>
 #include <string>
 #include <vector>
 
 namespace {
 
 constexpr const char* kCorpus = PILARIX_TEST_DATA "/golden/corpus.txt";
+// Every tenth line keeps what it showed as text a person reads, so that a change
+// shows what moved, not only that something did.
+constexpr const char* kReadable = PILARIX_TEST_DATA "/golden/legivel/";
+constexpr std::size_t kReadableEvery = 10;
+
+std::string readFile(const std::string& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return std::string((std::istreambuf_iterator<char>(in)), {});
+}
+
+// The lines of `expected` that `got` lacks and the other way round, the first few.
+std::string difference(const std::string& expected, const std::string& got)
+{
+    auto lines = [](const std::string& t) {
+        std::vector<std::string> v;
+        std::istringstream in(t);
+        for (std::string l; std::getline(in, l);)
+            v.push_back(l);
+        return v;
+    };
+    const auto a = lines(expected), b = lines(got);
+    std::string out;
+    int shown = 0;
+    for (std::size_t i = 0; i < std::max(a.size(), b.size()) && shown < 12; ++i) {
+        const std::string x = i < a.size() ? a[i] : "", y = i < b.size() ? b[i] : "";
+        if (x == y)
+            continue;
+        out += "  era:   " + x + "\n  agora: " + y + "\n";
+        ++shown;
+    }
+    return out;
+}
 constexpr int kShards = 8;
 
 std::vector<std::string>& corpusLines()
@@ -50,8 +91,18 @@ TEST_P(Golden, EveryLineShowsWhatItShowedBefore)
         if (const char* dump = std::getenv("PILARIX_GOLDEN_DUMP"))
             std::ofstream(std::string(dump) + "/" + std::to_string(i + 1) + ".txt") << shown;
         ++checked;
+        const bool keepsText = (i + 1) % kReadableEvery == 0;
+        const std::string textPath = std::string(kReadable) + std::to_string(i + 1) + ".txt";
         if (write) {
             lines[i] = std::string(1, line.kind) + "\t" + got + "\t" + line.payload;
+            if (keepsText)
+                std::ofstream(textPath, std::ios::binary) << pilarix::golden::readable(shown);
+            continue;
+        }
+        if (keepsText && got != line.hash) {
+            ADD_FAILURE() << "corpus line " << i + 1 << " (" << line.payload.substr(0, 200) << ") now shows:\n"
+                          << difference(readFile(textPath), pilarix::golden::readable(shown));
+            ++failed;
             continue;
         }
         if (got != line.hash && ++failed <= 3)
