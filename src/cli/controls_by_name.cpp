@@ -51,7 +51,8 @@ bool setControlByName(Program& p, const std::string& name, const std::string& va
     texts["Form8.Text2"] = &p.Form8.Text2;
     // ABNT NBR 6118:2014: not among the 39 records, saved after them.
     for (auto [nome, caixa] : {std::pair{"MdBase", &f.MdBase}, std::pair{"MyTopo", &f.MyTopo},
-                               std::pair{"MyBase", &f.MyBase}, std::pair{"LeH", &f.LeH}, std::pair{"LeB", &f.LeB}})
+                               std::pair{"MyBase", &f.MyBase}, std::pair{"LeH", &f.LeH}, std::pair{"LeB", &f.LeB},
+                               std::pair{"EstriboEspacamento", &f.EstriboEspacamento}})
         texts[nome] = caixa;
     // The rule set by its year too, as --norma takes it.
     if (name == "Norma" && (value == "2001" || value == "2014" || value == "2023")) {
@@ -67,7 +68,7 @@ bool setControlByName(Program& p, const std::string& name, const std::string& va
         {"Combo1", &f.Combo1}, {"Combo2", &f.Combo2}, {"Combo3", &f.Combo3},
         {"Combo4", &f.Combo4}, {"Combo5", &f.Combo5}, {"Combo6", &f.Combo6},
         {"Combo7", &f.Combo7}, {"Form8.Combo1", &p.Form8.Combo1}, {"Form8.Combo3", &p.Form8.Combo3},
-        {"Norma", &f.Norma}, {"SegundaOrdem", &f.SegundaOrdem},
+        {"Norma", &f.Norma}, {"SegundaOrdem", &f.SegundaOrdem}, {"EstriboDiametro", &f.EstriboDiametro},
     };
     if (auto it = combos.find(name); it != combos.end()) {
         if (!it->second->contains(value)) {

@@ -346,6 +346,16 @@ void Passes::chooseStirrupByMode(ColumnResult& r)
         s.PesoEstribo = pre.mass;
         s.EspEstribo = rules_.sameSteelSpacing.at(static_cast<std::size_t>(pre.index));
         return;
+    } else if (in_.typedStirrup) {
+        // The engineer's stirrup, in every pass: the rules are the re-check's to tell.
+        int k = 1;
+        while (k < kLastStirrupBar && bar(k).diameter < in_.typedStirrup->diameter - 1e-9)
+            ++k;
+        const Bar& typed = bar(k);
+        s.Indice = typed.index;
+        s.DiamEstriboEsc = typed.diameter;
+        s.PesoEstriboEsc = typed.mass;
+        s.EspEstriboEsc = in_.typedStirrup->spacing;
     } else if (rules_.minimumIndex == 1) {
         // 5 mm is already allowed: nothing to choose.
         s.DiamEstriboEsc = bar(1).diameter;

@@ -64,6 +64,13 @@ struct ColumnInput {
     StirrupMode stirrupMode = StirrupMode::Predefined;
     int predefinedStirrup = 1; // catalogue index 1 to 4
     bool stirrupsOfBarSteel = false; // "Mesmo tipo de aço"
+    // "Definir manualmente" with the stirrup typed by the engineer: taken as it is,
+    // nothing asked; the re-check of the final arrangement tells the rules it breaks.
+    struct TypedStirrup {
+        double diameter = 0; // cm, one of the catalogue's stirrups, which gives the mass
+        double spacing = 0;  // cm
+    };
+    std::optional<TypedStirrup> typedStirrup;
     Hook hook = Hook::Angle45;
     // The rule set; under ABNT NBR 6118:2014 the caller works γn out (13.2.3) and may
     // ask for more steel than this direction's design needs (the other direction's,

@@ -229,6 +229,9 @@ bool leCampos(const std::string& nome, std::vector<std::string>& campos, std::st
 //   MdBase;V  MyTopo;V  MyBase;V  LeH;V  LeB;V
 //                             what 2014 adds, as typed, each only when given
 //   SegundaOrdem;rigidez      the κ method (none: the approximate curvature)
+//   EstriboDiametro;6.3 mm  EstriboEspacamento;V
+//                             the stirrup typed with "Definir manualmente", each
+//                             only when given
 //   Caso;NOME;Nd;Md;MdBase;MyTopo;MyBase
 //                             a further case with its 2014 end moments (empty: none)
 //   Obra;TEXTO  Cliente;TEXTO  Pilar;TEXTO  Engenheiro;TEXTO  Revisão;TEXTO
@@ -242,12 +245,14 @@ constexpr const char* kDAutomatico = "d' automático";
 constexpr const char* kDDigitado = "d' digitado";
 constexpr const char* kNorma = "Norma";
 constexpr const char* kSegundaOrdem = "SegundaOrdem";
-// The boxes 2014 adds, in the order they are written.
-const std::vector<std::pair<const char*, TextBox Form1Model::*>>& caixas2014()
+constexpr const char* kEstriboDiametro = "EstriboDiametro";
+// The boxes 2014 adds and the typed stirrup's spacing, in the order they are written.
+const std::vector<std::pair<const char*, TextBox Form1Model::*>>& caixasOpcionais()
 {
     static const std::vector<std::pair<const char*, TextBox Form1Model::*>> t{
         {"MdBase", &Form1Model::MdBase}, {"MyTopo", &Form1Model::MyTopo}, {"MyBase", &Form1Model::MyBase},
-        {"LeH", &Form1Model::LeH},       {"LeB", &Form1Model::LeB}};
+        {"LeH", &Form1Model::LeH},       {"LeB", &Form1Model::LeB},
+        {"EstriboEspacamento", &Form1Model::EstriboEspacamento}};
     return t;
 }
 
@@ -334,7 +339,7 @@ bool registrosExtras(const Program& p, std::vector<std::string>& e, std::string&
         e.push_back(std::string(kDDigitado) + ";" + files::percentEncoded(*p.DLinhaDigitado));
     if (p.norma2014())
         e.push_back(std::string(kNorma) + (p.norma2023() ? ";2023" : ";2014"));
-    for (const auto& [nome, caixa] : caixas2014()) {
+    for (const auto& [nome, caixa] : caixasOpcionais()) {
         const std::string& v = (p.Form1.*caixa).Text;
         if (v.empty())
             continue;
@@ -345,6 +350,8 @@ bool registrosExtras(const Program& p, std::vector<std::string>& e, std::string&
         }
         e.push_back(std::string(nome) + ";" + v);
     }
+    if (!p.Form1.EstriboDiametro.Text.empty())
+        e.push_back(std::string(kEstriboDiametro) + ";" + p.Form1.EstriboDiametro.Text);
     if (p.Form1.SegundaOrdem.Text == "rigidez")
         e.push_back(std::string(kSegundaOrdem) + ";rigidez");
     for (const auto& [registro, campo] : kCamposDaObra) {
@@ -369,7 +376,8 @@ struct Extras {
     std::optional<std::string> dDigitado;
     int norma = 0; // the entry of the list: 0 the 2001 project, 1 2014, 2 2023
     bool rigidez = false;
-    std::vector<std::pair<TextBox Form1Model::*, std::string>> caixas2014;
+    std::string estriboDiametro;
+    std::vector<std::pair<TextBox Form1Model::*, std::string>> caixasOpcionais;
     DadosDaObra obra;
 };
 
@@ -424,13 +432,18 @@ Extras leExtras(const std::vector<std::string>& campos, const std::string& nome,
                 quebrado("o método da segunda ordem se grava como SegundaOrdem;rigidez");
             else
                 x.rigidez = true;
-        } else if (const auto k = std::find_if(caixas2014().begin(), caixas2014().end(),
+        } else if (const auto k = std::find_if(caixasOpcionais().begin(), caixasOpcionais().end(),
                                                [&](const auto& c) { return p[0] == c.first; });
-                   k != caixas2014().end()) {
+                   k != caixasOpcionais().end()) {
             if (p.size() != 2 || !IsNumber(p[1]))
                 quebrado(std::string(k->first) + " é um número com ponto decimal");
             else
-                x.caixas2014.emplace_back(k->second, p[1]);
+                x.caixasOpcionais.emplace_back(k->second, p[1]);
+        } else if (p[0] == kEstriboDiametro) {
+            if (p.size() != 2 || std::find(lists::estribo.begin(), lists::estribo.end(), p[1]) == lists::estribo.end())
+                quebrado("o diâmetro do estribo digitado é um da lista, de \"5 mm\" a \"10 mm (3/8'')\"");
+            else
+                x.estriboDiametro = p[1];
         } else if (p[0] == kBitolaFixa) {
             const int k = p.size() == 2 ? engine::barIndexByLabel(p[1]) : 0;
             if (k < engine::kFirstLongitudinalBar)
@@ -611,9 +624,10 @@ void Program::Carrega33()
     // A file without them is a project of the 2001 rules.
     Form1.Norma.Text = lists::norma[static_cast<std::size_t>(extras.norma)];
     Form1.SegundaOrdem.Text = extras.rigidez ? "rigidez" : "curvatura";
-    for (const auto& [nome, caixa] : caixas2014())
+    Form1.EstriboDiametro.Text = extras.estriboDiametro;
+    for (const auto& [nome, caixa] : caixasOpcionais())
         (Form1.*caixa).Text.clear();
-    for (const auto& [caixa, valor] : extras.caixas2014)
+    for (const auto& [caixa, valor] : extras.caixasOpcionais)
         (Form1.*caixa).Text = valor;
     Obra = extras.obra;
     // The next calculation starts where the saved one did; saved again before it,

@@ -10,6 +10,9 @@
 #include <QPolygonF>
 
 #include <algorithm>
+#include <cmath>
+#include <string>
+#include <vector>
 
 namespace pilarix::render {
 
@@ -58,22 +61,21 @@ void drawPolyline(QPainter& p, const engine::Polyline& line, const DrawingView& 
 }
 
 // A line of text from `base` (the start of its baseline, or its middle when
-// centred), turned `degrees` counter-clockwise, `height` cm tall.
-void drawText(QPainter& p, const DrawingView& v, engine::Point base, double degrees, double height, bool centred,
+// centred), turned `degrees` counter-clockwise, `pixels` tall on the device and
+// squeezed sideways into `room` pixels should the font run wider.
+void drawText(QPainter& p, QPointF base, double degrees, double pixels, double room, bool centred,
               const std::string& utf8)
 {
-    const double pixels = height * v.scale;
     if (!(pixels >= 0.5) || utf8.empty())
         return; // nothing a reader could see
     const QString text = QString::fromStdString(utf8);
     const double k = pixels / kReferencePixels;
     const QFont font = referenceFont();
     const double width = QFontMetricsF(font).horizontalAdvance(text) * k;
-    const double room = exporting::textAllowance(utf8, height) * v.scale;
     const double squeeze = width > room && width > 0 ? room / width : 1.0;
 
     p.save();
-    p.translate(v.toDevice(base));
+    p.translate(base);
     p.rotate(-degrees);
     if (centred)
         p.translate(-width * squeeze / 2, 0);
@@ -83,7 +85,103 @@ void drawText(QPainter& p, const DrawingView& v, engine::Point base, double degr
     p.restore();
 }
 
+// Every text of the drawing where it lands on the device.
+struct PlacedText {
+    QPointF base;
+    double degrees = 0, pixels = 0, room = 0;
+    bool centred = false;
+    std::string text;
+};
+
+struct PlacedTexts {
+    std::vector<PlacedText> dimensions, labels;
+    double bottom = 0; // device y of the lowest text's foot
+};
+
+PlacedTexts placeTexts(const engine::SectionGeometry& g, const DrawingView& v, double minimumPixels)
+{
+    PlacedTexts t;
+    const double m = std::max(minimumPixels, 0.0);
+    // Below the baseline a text reaches about a quarter of its height.
+    auto foot = [&](const PlacedText& x) { return x.base.y() + (x.degrees == 0 ? 0.25 * x.pixels : 0.0); };
+    double lowestDimension = -1e300;
+    for (const auto& d : g.dimensions) {
+        const exporting::DimensionFigure f = exporting::dimensionFigure(d);
+        PlacedText x{v.toDevice(f.textBase), f.textAngle, f.textHeight * v.scale,
+                     exporting::textAllowance(f.text, f.textHeight) * v.scale, true, f.text};
+        const double len = std::hypot(d.to.x - d.from.x, d.to.y - d.from.y);
+        if (x.pixels < m && len > 0) {
+            // Too small to read where it is: at the least height, outside the line, so
+            // that it grows away from the section and not into it.
+            const double ux = (d.to.x - d.from.x) / len, uy = (d.to.y - d.from.y) / len;
+            const double nx = uy, ny = -ux;
+            const bool turned = ux < -1e-12 || (std::abs(ux) <= 1e-12 && uy < 0);
+            const double gap = 0.25 * f.textHeight, cm = m / v.scale;
+            const double out = d.offset + gap + (turned ? 0 : cm);
+            const engine::Point mid{(d.from.x + d.to.x) / 2 + nx * out, (d.from.y + d.to.y) / 2 + ny * out};
+            x.base = v.toDevice(mid);
+            x.pixels = m;
+            x.room = exporting::textAllowance(f.text, m);
+            if (x.degrees == 0)
+                lowestDimension = std::max(lowestDimension, foot(x));
+        }
+        t.bottom = std::max(t.bottom, foot(x));
+        t.dimensions.push_back(x);
+    }
+    // The labels keep their own places unless one of them grows: then they start
+    // under what stands above them and follow at 1.6 times their height, as drawn.
+    bool grow = false;
+    for (const auto& l : g.labels)
+        grow = grow || l.height * v.scale < m;
+    double baseline = 0;
+    for (std::size_t i = 0; i < g.labels.size(); ++i) {
+        const auto& l = g.labels[i];
+        PlacedText x{v.toDevice(l.position), 0, l.height * v.scale, exporting::textAllowance(l.text, l.height) * v.scale,
+                     false, l.text};
+        if (grow) {
+            if (x.pixels < m) {
+                x.pixels = m;
+                x.room = exporting::textAllowance(l.text, m);
+            }
+            if (i == 0) {
+                const double top = std::max(x.base.y() - l.height * v.scale, lowestDimension + 0.6 * m);
+                baseline = top + x.pixels;
+            } else {
+                baseline += 1.6 * x.pixels;
+            }
+            x.base.setY(baseline);
+        }
+        t.bottom = std::max(t.bottom, foot(x));
+        t.labels.push_back(x);
+    }
+    return t;
+}
+
 } // namespace
+
+std::vector<TextPlace> placedTexts(const engine::SectionGeometry& g, const DrawingView& v, double minimumTextPixels)
+{
+    const PlacedTexts t = placeTexts(g, v, minimumTextPixels);
+    std::vector<TextPlace> out;
+    for (const auto* list : {&t.dimensions, &t.labels})
+        for (const PlacedText& x : *list) {
+            const double along0 = x.centred ? -x.room / 2 : 0;
+            QRectF box;
+            if (std::abs(x.degrees) < 45)
+                box = QRectF(x.base.x() + along0, x.base.y() - x.pixels, x.room, 1.25 * x.pixels);
+            else // read bottom to top: the text runs up, its glyphs stand to the left
+                box = QRectF(x.base.x() - x.pixels, x.base.y() - along0 - x.room, 1.25 * x.pixels, x.room);
+            out.push_back({box, x.pixels, x.text});
+        }
+    return out;
+}
+
+double textOverflowBelow(const engine::SectionGeometry& g, const DrawingView& v, double minimumTextPixels)
+{
+    const exporting::Extent e = exporting::drawingExtent(g);
+    const double extentBottom = v.toDevice({0, e.minY}).y();
+    return std::max(0.0, placeTexts(g, v, minimumTextPixels).bottom - extentBottom);
+}
 
 DrawingView fitView(const engine::SectionGeometry& g, const QRectF& frame, double margin)
 {
@@ -144,16 +242,16 @@ void paintSection(QPainter& p, const engine::SectionGeometry& g, const DrawingVi
 
     pen = QPen(c.dimensions, 1.0);
     p.setPen(pen);
-    for (const auto& d : g.dimensions) {
-        const exporting::DimensionFigure f = exporting::dimensionFigure(d);
-        for (const exporting::Segment& s : f.lines)
+    for (const auto& d : g.dimensions)
+        for (const exporting::Segment& s : exporting::dimensionFigure(d).lines)
             p.drawLine(v.toDevice(s.a), v.toDevice(s.b));
-        drawText(p, v, f.textBase, f.textAngle, f.textHeight, true, f.text);
-    }
+    const PlacedTexts texts = placeTexts(g, v, style.minimumTextPixels);
+    for (const auto& x : texts.dimensions)
+        drawText(p, x.base, x.degrees, x.pixels, x.room, x.centred, x.text);
 
     p.setPen(c.texts);
-    for (const auto& l : g.labels)
-        drawText(p, v, l.position, 0, l.height, false, l.text);
+    for (const auto& x : texts.labels)
+        drawText(p, x.base, x.degrees, x.pixels, x.room, x.centred, x.text);
     p.restore();
 }
 

@@ -16,6 +16,9 @@
 #include <QPointF>
 #include <QRectF>
 
+#include <string>
+#include <vector>
+
 class QPainter;
 
 namespace pilarix::render {
@@ -42,7 +45,29 @@ DrawingView placedView(const engine::SectionGeometry& geometry, double scale, do
 
 struct PaintStyle {
     bool stale = false; // all in light grey: the input changed since the drawing was made
+    // The least height of a text on the device, pixels; 0: every text as tall as the
+    // geometry says (the exported drawings). The window sets its own small text size,
+    // so that a drawing fitted into a small frame at 150 % is still read: the values
+    // of the dimensions then stand outside their lines, and the labels start below
+    // them at a pitch of their new height.
+    double minimumTextPixels = 0;
 };
+
+// Where each text of the drawing lands on the device with `minimumTextPixels`: its
+// height and the box it may fill (its room along the baseline, its height and a
+// quarter of it below), dimensions first, then the labels.
+struct TextPlace {
+    QRectF box;
+    double pixels = 0;
+    std::string text;
+};
+std::vector<TextPlace> placedTexts(const engine::SectionGeometry& geometry, const DrawingView& view,
+                                   double minimumTextPixels);
+
+// How far below `view`'s extent of the drawing (exporting::drawingExtent) the texts
+// reach on the device with `minimumTextPixels`, pixels (0: not beyond it).
+double textOverflowBelow(const engine::SectionGeometry& geometry, const DrawingView& view,
+                         double minimumTextPixels);
 
 void paintSection(QPainter& painter, const engine::SectionGeometry& geometry, const DrawingView& view,
                   const PaintStyle& style = {});

@@ -47,6 +47,11 @@ void aplicaDicas(QWidget* centro, const std::array<QLineEdit*, 8>& bitolas)
                    "numa bitola a fixa para o cálculo."},
         {"Option3", "Estribo pré-definido: o diâmetro da lista ao lado."},
         {"Combo3", "Diâmetro do estribo pré-definido."},
+        {"EstriboDiametro", "Com \"Definir manualmente\": o diâmetro do estribo. Com o espaçamento, o cálculo usa "
+                            "este estribo sem perguntar e a verificação diz se ele fere alguma regra; vazio, o "
+                            "estribo é escolhido durante o cálculo."},
+        {"EstriboEspacamento", "Com \"Definir manualmente\": o espaçamento do estribo em cm (maior que 0 e no "
+                               "máximo 100). Vazio, o estribo é escolhido durante o cálculo."},
         {"Option5", "O estribo de menor consumo de aço por metro."},
         {"Option6", "O cálculo mostra as opções de estribo e pergunta qual usar."},
         {"Check5", "Marcado: os estribos são do mesmo aço das barras longitudinais."},

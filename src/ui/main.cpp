@@ -6,6 +6,8 @@
 #include "ui/main_window.h"
 #include "ui/screenshot.h"
 
+#include "ui/screen_fit.h"
+
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -26,6 +28,9 @@ int main(int argc, char* argv[])
     if (qtbase.load(QStringLiteral("qtbase_pt_BR"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&qtbase);
     QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
+    // No dialog taller than the screen it shows on.
+    pilarix::ui::CabeNaTela cabeNaTela;
+    app.installEventFilter(&cabeNaTela);
 
     const pilarix::ui::Argumentos args = pilarix::ui::leArgumentos(QApplication::arguments().mid(1));
     if (!args.valido) {

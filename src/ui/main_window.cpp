@@ -594,7 +594,27 @@ QWidget* MainWindow::montaOpcoes()
     ge->addWidget(lista(f.Combo3, QStringLiteral("Combo3"), QStringLiteral("Estribo pré-definido")), 0, 1);
     ge->addWidget(o5, 1, 0, 1, 2);
     ge->addWidget(o6, 2, 0, 1, 2);
-    ge->addWidget(marca(f.Check5, QStringLiteral("Check5"), qs(f.Check5.Caption)), 3, 0, 1, 2);
+    {
+        // The typed stirrup on its own line under the option, indented as its part.
+        auto* digitado = new QWidget;
+        auto* hd = new QHBoxLayout(digitado);
+        hd->setContentsMargins(24, 0, 0, 0);
+        estriboDiametro_ = lista(f.EstriboDiametro, QStringLiteral("EstriboDiametro"), QStringLiteral("Diâmetro do estribo"));
+        estriboEspacamento_ = caixa(f.EstriboEspacamento, QStringLiteral("EstriboEspacamento"), Teclas::Decimal, 48,
+                                    QStringLiteral("Espaçamento do estribo (cm)"));
+        hd->addWidget(new QLabel(QStringLiteral("φ")));
+        hd->addWidget(estriboDiametro_, 1);
+        hd->addWidget(new QLabel(QStringLiteral("c/")));
+        hd->addWidget(estriboEspacamento_);
+        hd->addWidget(new QLabel(QStringLiteral("cm")));
+        ge->addWidget(digitado, 3, 0, 1, 2);
+        // Only "Definir manualmente" reads them; the others leave them as they are.
+        connect(o6, &QRadioButton::toggled, this, [this](bool marcado) {
+            estriboDiametro_->setEnabled(marcado);
+            estriboEspacamento_->setEnabled(marcado);
+        });
+    }
+    ge->addWidget(marca(f.Check5, QStringLiteral("Check5"), qs(f.Check5.Caption)), 4, 0, 1, 2);
     ge->setColumnStretch(1, 1);
     v->addWidget(est);
 
@@ -831,7 +851,7 @@ void MainWindow::montaOrdemDeTab()
         "Norma", "Text1",   "Text31",  "Text2",    "Text32",   "Text23",   "Text4",    "Text5",  "Text3",
         "Command17", "Check3", "Text16",  "Combo4",   "Text17",   "Combo5",   "Text18", "Combo6",
         "Text20",  "Combo7",  "Text21",   "Text22",   "Combo1", "SegundaOrdem", "LeH", "LeB", "MyTopo", "MdBase", "MyBase",   "Option1",  "Option2", "Combo2",
-        "Check1",  "Check2",  "Option3",  "Combo3",   "Option5",  "Option6",  "Check5", "Option7(1)",
+        "Check1",  "Check2",  "Option3",  "Combo3",   "Option5",  "Option6", "EstriboDiametro", "EstriboEspacamento", "Check5", "Option7(1)",
         "Option7(0)", "Text6", "AjustarDesenho", "Command1", "Command8", "Command10", "Command9", "Command11",
         "Command7", "Command6",
     };
@@ -925,6 +945,10 @@ void MainWindow::atualiza()
     for (auto& g : grupos_)
         for (auto* r : g)
             r->setAutoExclusive(true);
+    if (estriboDiametro_) {
+        estriboDiametro_->setEnabled(f.Option6.Value);
+        estriboEspacamento_->setEnabled(f.Option6.Value);
+    }
     for (auto& [m, b] : botoes_) {
         b->setText(qs(m->Caption));
         b->setEnabled(m->Enabled);

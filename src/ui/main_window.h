@@ -220,6 +220,9 @@ private:
     std::string nomeProposto() const;
     QPointer<HelpDialog> ajuda_;
     QLineEdit* utilizacao_ = nullptr;
+    // The stirrup typed with "Definir manualmente", in use only with that option.
+    QComboBox* estriboDiametro_ = nullptr;
+    QLineEdit* estriboEspacamento_ = nullptr;
     QLabel* avisoVerificacao_ = nullptr;
     QLabel* casoDeterminante_ = nullptr;
     QLabel* posicaoNaLista_ = nullptr;

@@ -1,5 +1,6 @@
 #include "ui/section_canvas.h"
 
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QMouseEvent>
 #include <QPainter>
@@ -58,11 +59,29 @@ void SectionCanvas::setStale(bool stale)
     update();
 }
 
+double SectionCanvas::minimumTextPixels() const { return 0.8 * QFontInfo(font()).pixelSize(); }
+
+render::DrawingView SectionCanvas::fittedView() const
+{
+    // Texts raised to their least height reach below the drawing's extent by a
+    // number of pixels that hardly depends on the scale: the frame is shortened by
+    // it, twice, to settle.
+    const QRectF whole(rect());
+    render::DrawingView v = render::fitView(geometry_, whole, kMargin);
+    for (int i = 0; i < 2; ++i) {
+        const double below = render::textOverflowBelow(geometry_, v, minimumTextPixels());
+        if (!(below > 0.5))
+            break;
+        v = render::fitView(geometry_, whole.adjusted(0, 0, 0, -std::min(below, whole.height() / 2)), kMargin);
+    }
+    return v;
+}
+
 void SectionCanvas::fit()
 {
     fitted_ = true;
     if (hasSection_) {
-        view_ = render::fitView(geometry_, QRectF(rect()), kMargin);
+        view_ = fittedView();
         fitScale_ = view_.scale;
     }
     update();
@@ -101,6 +120,7 @@ void SectionCanvas::paintEvent(QPaintEvent*)
     }
     render::PaintStyle style;
     style.stale = stale_ || !unverified_.isEmpty();
+    style.minimumTextPixels = minimumTextPixels();
     render::paintSection(p, geometry_, view_, style);
     if (!unverified_.isEmpty()) {
         // Large enough to be read at a glance, over the drawing's middle.
@@ -134,7 +154,7 @@ void SectionCanvas::resizeEvent(QResizeEvent* event)
     const engine::Point middle = view_.toDrawing(QRectF(QPointF(0, 0), event->oldSize()).center());
     view_.origin += QRectF(rect()).center() - view_.toDevice(middle);
     const double before = fitScale_;
-    fitScale_ = render::fitView(geometry_, QRectF(rect()), kMargin).scale;
+    fitScale_ = fittedView().scale;
     if (!(fitScale_ > 0))
         fitScale_ = before;
 }

@@ -52,6 +52,11 @@ public:
     QSize minimumSizeHint() const override { return {120, 120}; }
 
     static constexpr double kMargin = 12; // pixels around the fitted drawing
+    // The least height of the drawing's texts on the screen: the window's own small
+    // text, so that they read at 125 % and 150 % as the boxes around them do.
+    double minimumTextPixels() const;
+    // The whole drawing in the frame, the texts at their least height included.
+    render::DrawingView fittedView() const;
 
 public slots:
     void fit();

@@ -27,6 +27,11 @@ std::vector<std::string> rotulos(int primeira, int ultima, bool virgula)
 }
 } // namespace
 const std::vector<std::string> estribo = rotulos(1, engine::kLastStirrupBar, false);
+const std::vector<std::string> estriboDigitado = [] {
+    std::vector<std::string> v{""};
+    v.insert(v.end(), estribo.begin(), estribo.end());
+    return v;
+}();
 const std::vector<std::string> longitudinal = rotulos(engine::kFirstLongitudinalBar, engine::kBarCount, false);
 const std::vector<std::string> estriboVirgula = rotulos(1, engine::kLastStirrupBar, true);
 const std::vector<std::string> longitudinalVirgula = rotulos(engine::kFirstLongitudinalBar, engine::kBarCount, true);
@@ -66,6 +71,7 @@ Form1Model::Form1Model()
     Combo1 = combo(lists::aco, "Aço CA-50A");
     Combo2 = combo(lists::agressividade, "II");
     Combo3 = combo(lists::estribo, "5 mm");
+    EstriboDiametro = combo(lists::estriboDigitado, "");
     Norma = combo(lists::norma, lists::norma[0]);
     SegundaOrdem = combo(lists::segundaOrdem, "curvatura");
 

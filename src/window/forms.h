@@ -36,6 +36,11 @@ struct Form1Model {
     // "Estribos"
     OptionButton Option3, Option5, Option6;
     ComboBox Combo3;
+    // With "Definir manualmente": the stirrup the engineer types, its diameter (the
+    // list of Combo3 after an empty entry) and its spacing in cm. Either empty, the
+    // calculation asks "Escolha dos estribos" as it always did.
+    ComboBox EstriboDiametro;
+    TextBox EstriboEspacamento;
     CheckBox Check5;
     // "Ganchos": element 0 is the 45° hook, element 1 the right-angle hook
     std::array<OptionButton, 2> Option7;
@@ -152,6 +157,7 @@ extern const std::vector<std::string> agressividade; // Combo2
 extern const std::vector<std::string> norma;         // Norma: the 2001 project, ABNT NBR 6118:2014 and :2023
 extern const std::vector<std::string> segundaOrdem;  // SegundaOrdem: "curvatura", "rigidez"
 extern const std::vector<std::string> estribo;     // Combo3, Form8.Combo1
+extern const std::vector<std::string> estriboDigitado; // EstriboDiametro: "" and then estribo
 extern const std::vector<std::string> longitudinal; // Form8.Combo3
 extern const std::vector<std::string> estriboVirgula;      // Form5.Combo1
 extern const std::vector<std::string> longitudinalVirgula; // Form5.Combo2

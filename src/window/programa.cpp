@@ -5,12 +5,15 @@
 #include "window/program.h"
 
 #include "base/number_text.h"
+#include "engine/catalogue.h"
 #include "engine/column.h"
 #include "engine/failure.h"
 #include "window/window_input.h"
 #include "window/window_questions.h"
 
 #include <cfenv>
+#include <optional>
+#include <utility>
 
 namespace pilarix {
 
@@ -23,6 +26,18 @@ engine::StirrupMode modoDoEstribo(const Form1Model& f)
     if (f.Option3.Value)
         return engine::StirrupMode::Predefined;
     return engine::StirrupMode::Manual;
+}
+
+// The stirrup typed with "Definir manualmente": diameter and spacing, cm; none when
+// the option is another or either box is empty.
+std::optional<std::pair<double, double>> estriboDigitado(const Form1Model& f)
+{
+    if (!f.Option6.Value || f.EstriboDiametro.Text.empty() || !numeroCompleto(f.EstriboEspacamento.Text))
+        return std::nullopt;
+    for (std::size_t i = 0; i < lists::estribo.size(); ++i)
+        if (f.EstriboDiametro.Text == lists::estribo[i])
+            return std::pair{engine::bar(static_cast<int>(i) + 1).diameter, Val(f.EstriboEspacamento.Text)};
+    return std::nullopt;
 }
 
 int estriboPreDefinido(const std::string& texto)
@@ -120,6 +135,8 @@ engine::ColumnInput Program::entradaDoCalculo() const
     in.stirrupMode = modoDoEstribo(f);
     in.predefinedStirrup = estriboPreDefinido(f.Combo3.Text);
     in.stirrupsOfBarSteel = f.Check5.ticked();
+    if (const auto digitado = estriboDigitado(f))
+        in.typedStirrup = engine::ColumnInput::TypedStirrup{digitado->first, digitado->second};
     in.hook = f.Option7[0].Value ? engine::Hook::Angle45 : engine::Hook::RightAngle;
     return in;
 }

@@ -150,6 +150,8 @@ const std::vector<Entrada>& entradas()
         // "Estribos" and "Ganchos"
         t.push_back(grupo({{"Option3", &F::Option3}, {"Option5", &F::Option5}, {"Option6", &F::Option6}}, P | R));
         lista("Combo3", P | R, &F::Combo3);
+        lista("EstriboDiametro", P | R, &F::EstriboDiametro);
+        texto("EstriboEspacamento", P | R, &F::EstriboEspacamento);
         t.push_back(caixaDeMarcar("Check5", P | R | B, &F::Check5));
         // The hooks are elements of an array: their group reads them by index.
         t.push_back({"Option7(0)|Option7(1)", P | R,
@@ -399,6 +401,19 @@ std::optional<std::string> conferenciaDaEntrada(const Program& p)
                + ", que não é um número: digite d' em cm, deixe-a vazia ou marque \"d' automático\"." + nada;
     if (auto m = foraDaFaixa(p))
         return *m + nada;
+    // The typed stirrup's spacing, with "Definir manualmente": empty asks the question.
+    if (f.Option6.Value && !vazia(f.EstriboEspacamento.Text)) {
+        const auto e = valor(f.EstriboEspacamento.Text);
+        const std::string nome = aspas("Espaçamento do estribo (cm)");
+        if (!e)
+            return "A caixa " + nome + " tem " + aspas(f.EstriboEspacamento.Text)
+                   + ", que não é um número: digite o espaçamento em cm, ou deixe-a vazia para escolher o estribo "
+                     "durante o cálculo."
+                   + nada;
+        if (!(*e > 0 && *e <= 100))
+            return "A caixa " + nome + " tem " + f.EstriboEspacamento.Text
+                   + ", fora do que o programa aceita: maior que 0 e no máximo 100 cm." + nada;
+    }
     if (auto m = conferenciaDeOutrosValores(p.Form8.Text1.Text, p.Form8.Text2.Text))
         return *m + " (Valores > Outros)" + nada;
     if (auto m = conferenciaDaEscala(f.Text6.Text))

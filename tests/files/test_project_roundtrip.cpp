@@ -60,6 +60,7 @@ std::string kept(const Program& p)
     for (const OptionButton* o : {&f.Option1, &f.Option2, &f.Option3, &f.Option5, &f.Option6, &f.Option7[0],
                                   &f.Option7[1]})
         s << o->Value;
+    s << '[' << f.EstriboDiametro.Text << ';' << f.EstriboEspacamento.Text << ']';
     s << f.Text3.Enabled << f.Command17.Enabled << f.Text6.Enabled << '|' << p.BitolaFixa << '|' << p.NomeDoCaso1;
     for (const auto& c : p.OutrosCasos)
         s << '[' << c.nome << ';' << c.nd << ';' << c.md << ']';
@@ -103,6 +104,9 @@ void randomProject(Program& p, std::mt19937& rng)
         selectOption(f.Option1, f.Option2);
     else
         selectOption(f.Option2, f.Option1);
+    // The typed stirrup, each box only now and then.
+    f.EstriboDiametro.Text = rng() % 2 ? pick(lists::estribo) : "";
+    f.EstriboEspacamento.Text = rng() % 2 ? number(5, 40) + ".5" : "";
     p.BitolaFixa = rng() % 3 == 0 ? 4 + static_cast<int>(rng() % 8) : 0;
     p.OutrosCasos.clear();
     if (rng() % 2) {

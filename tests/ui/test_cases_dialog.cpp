@@ -4,8 +4,15 @@
 #include "ui/cases_dialog.h"
 #include "window/policy_dialogs.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTableWidget>
+#include <QTest>
+
+#include <functional>
 
 #include <gtest/gtest.h>
 
@@ -131,5 +138,69 @@ TEST(UiCasos, TheWindowCalculatesEveryCaseAndTheDiagramShowsThemAll)
         QApplication::processEvents();
         dialogo->grab().save(QString::fromUtf8(png));
         diagrama->grab().save(QString::fromUtf8(png) + QStringLiteral(".diagrama.png"));
+    }
+}
+
+// The keys an engineer uses on the table: Ctrl+V over it pastes the clipboard's
+// block, headings left aside and "1.350,0" read as 1350; Alt+A and the button add
+// a case with the cursor in its name, so that typing names it at once.
+namespace {
+struct CasosNaTela : Casos {
+    CasosNaTela()
+    {
+        dialogo.show();
+        dialogo.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialogo));
+    }
+};
+} // namespace
+
+TEST(UiCasosTeclas, CtrlVOverTheTablePastesASpreadsheetBlock)
+{
+    CasosNaTela c;
+    QApplication::clipboard()->setText(QStringLiteral("Caso\tNd (KN)\tMd (KN.cm)\nvento\t1.350,0\t-2.000,5\n"));
+    c.dialogo.tabela()->setFocus();
+    QTest::keyClick(c.dialogo.tabela(), Qt::Key_V, Qt::ControlModifier);
+    ASSERT_EQ(c.p.OutrosCasos.size(), 1u) << c.dialogo.aviso()->text().toStdString();
+    EXPECT_EQ(c.p.OutrosCasos[0].nome, "vento");
+    EXPECT_EQ(c.p.OutrosCasos[0].nd, "1350.0");
+    EXPECT_EQ(c.p.OutrosCasos[0].md, "-2000.5");
+    EXPECT_EQ(c.dialogo.tabela()->rowCount(), 2);
+    EXPECT_EQ(c.dialogo.aviso()->text(), QStringLiteral("A primeira linha colada (títulos) foi deixada de lado."));
+}
+
+TEST(UiCasosTeclas, AddingPutsTheCursorInTheNewRowsName)
+{
+    const struct Row {
+        const char* name;
+        std::function<void(CasosNaTela&)> add;
+    } rows[] = {
+        {"Alt+A over the table",
+         [](CasosNaTela& c) {
+             c.dialogo.tabela()->setFocus();
+             QTest::keyClick(c.dialogo.tabela(), Qt::Key_A, Qt::AltModifier);
+         }},
+        {"the button",
+         [](CasosNaTela& c) {
+             QTest::mouseClick(c.dialogo.findChild<QPushButton*>(QStringLiteral("cmdAdicionarCaso")), Qt::LeftButton);
+         }},
+    };
+    for (const Row& r : rows) {
+        CasosNaTela c;
+        r.add(c);
+        // A button pressed by its access key shows itself pressed for a moment first.
+        QTest::qWait(200);
+        ASSERT_EQ(c.p.OutrosCasos.size(), 1u) << r.name;
+        auto* t = c.dialogo.tabela();
+        EXPECT_EQ(t->currentRow(), 1) << r.name;
+        EXPECT_EQ(t->currentColumn(), 0) << r.name;
+        // Typed over at once: the name's editor has the keys.
+        auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        ASSERT_NE(editor, nullptr) << r.name;
+        editor->selectAll();
+        QTest::keyClicks(editor, QStringLiteral("vento"));
+        QTest::keyClick(editor, Qt::Key_Return);
+        QApplication::processEvents();
+        EXPECT_EQ(c.p.OutrosCasos[0].nome, "vento") << r.name;
     }
 }

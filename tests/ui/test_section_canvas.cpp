@@ -3,6 +3,8 @@
 
 #include "ui/section_canvas.h"
 
+#include "render/section_painter.h"
+
 #include "export/drawing_layout.h"
 #include "support/drawing_samples.h"
 
@@ -56,10 +58,14 @@ TEST(SectionCanvas, TheWholeDrawingFitsItsFrameAndFollowsItsResizes)
         EXPECT_TRUE(s.canvas.isFitted());
         const double m = ui::SectionCanvas::kMargin;
         const QRectF frame = QRectF(s.canvas.rect()).adjusted(m - 0.01, m - 0.01, 0.01 - m, 0.01 - m);
-        const QRectF drawn(s.at({e.minX, e.maxY}), s.at({e.maxX, e.minY}));
-        EXPECT_TRUE(frame.contains(drawn));
+        // The drawing with its texts raised to the window's small text size.
+        const double below =
+            render::textOverflowBelow(s.canvas.section(), s.canvas.view(), s.canvas.minimumTextPixels());
+        const QRectF drawn = QRectF(s.at({e.minX, e.maxY}), s.at({e.maxX, e.minY})).adjusted(0, 0, 0, below);
+        EXPECT_TRUE(frame.adjusted(0, 0, 0, 1).contains(drawn));
         // As large as fits: it fills the frame one way.
-        EXPECT_TRUE(std::abs(drawn.width() - frame.width()) < 0.03 || std::abs(drawn.height() - frame.height()) < 0.03);
+        EXPECT_TRUE(std::abs(drawn.width() - frame.width()) < 0.03 || std::abs(drawn.height() - frame.height()) < 1)
+            << drawn.height() << " " << frame.height();
     }
 }
 
@@ -112,4 +118,42 @@ TEST(SectionCanvas, ABarIsBlackStaleItIsGreyWithoutASectionThereIsNone)
     EXPECT_EQ(grey(), 255);
     wheel(s.canvas, bar, 120); // nothing to zoom or drag, nothing breaks
     mouse(s.canvas, QEvent::MouseButtonDblClick, bar, Qt::LeftButton);
+}
+
+// The window's texts at their least height: each at least that tall, none over
+// another nor over the concrete, all within the frame the canvas fitted them to;
+// without it (the exported drawings) every text is where the geometry puts it.
+TEST(SectionCanvasTexts, RaisedToTheLeastHeightTheyStayApart)
+{
+    const struct Row {
+        const char* name;
+        QSize frame;
+        double least;
+    } rows[] = {
+        {"a small frame at 150 %", {260, 300}, 16},
+        {"a narrow tall frame", {180, 420}, 14},
+        {"a large frame, texts already tall", {900, 900}, 9},
+    };
+    for (const auto& sample : test::sampleColumns()) {
+        const engine::SectionGeometry g = engine::sectionGeometry(sample.detail);
+        for (const Row& r : rows) {
+            const QRectF frame(QPointF(0, 0), QSizeF(r.frame));
+            render::DrawingView v = render::fitView(g, frame, 12);
+            const double below = render::textOverflowBelow(g, v, r.least);
+            v = render::fitView(g, frame.adjusted(0, 0, 0, -below), 12);
+            const auto texts = render::placedTexts(g, v, r.least);
+            const QRectF concrete(v.toDevice({0, sample.detail.depth}), v.toDevice({sample.detail.width, 0}));
+            for (std::size_t i = 0; i < texts.size(); ++i) {
+                const auto& a = texts[i];
+                EXPECT_GE(a.pixels, r.least - 1e-9) << sample.name << ", " << r.name << ": " << a.text;
+                EXPECT_FALSE(a.box.intersects(concrete)) << r.name << ": " << a.text;
+                EXPECT_LE(a.box.bottom(), frame.bottom() + 1) << r.name << ": " << a.text;
+                for (std::size_t j = i + 1; j < texts.size(); ++j)
+                    EXPECT_FALSE(a.box.intersects(texts[j].box)) << r.name << ": " << a.text << " / " << texts[j].text;
+            }
+        }
+        // No least height: the exported drawing's places, which reach no further.
+        const render::DrawingView v = render::fitView(g, QRectF(0, 0, 260, 300), 12);
+        EXPECT_EQ(render::textOverflowBelow(g, v, 0), 0.0) << sample.name;
+    }
 }
