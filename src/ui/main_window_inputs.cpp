@@ -1,0 +1,369 @@
+// The main window's input panels: the frames "Dimensões", "Arranjo", "Esforços e
+// Resistências", "Cobrimento", "Bitola", "Estribos" and "Ganchos", built in code, and the
+// factories that bind each widget to its control of the form model as it is made
+// (its key filter, its check, the edit and Enter wiring).
+
+#include "ui/main_window.h"
+#include "ui/window_parts.h"
+
+#include "base/number_text.h"
+#include "engine/catalogue.h"
+#include "render/drawing_export.h"
+#include "render/report_pdf.h"
+#include "ui/cases_dialog.h"
+#include "ui/about_dialog.h"
+#include "ui/d_estimate_dialog.h"
+#include "ui/help_dialog.h"
+#include "ui/box_check.h"
+#include "ui/input_edit.h"
+#include "ui/input_tips.h"
+#include "ui/interaction_dialog.h"
+#include "ui/norma2014_panel.h"
+#include "ui/other_values_dialog.h"
+#include "ui/project_data_dialog.h"
+#include "ui/qt_dialogs.h"
+#include "ui/section_canvas.h"
+#include "ui/solutions_dialog.h"
+#include "ui/verdict_text.h"
+#include "ui/wheel_guard.h"
+#include "window/solution_details.h"
+#include "window/units.h"
+#include "window/window_input.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSettings>
+#include <QShortcutEvent>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTextBrowser>
+#include <QUndoCommand>
+#include <QUndoStack>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace pilarix::ui {
+
+using namespace window_parts;
+
+// ---- building the window ----
+
+QLineEdit* MainWindow::caixa(TextBox& m, const QString& nome, Teclas regra, int largura, const QString& rotuloCaixa)
+{
+    auto* e = new QLineEdit;
+    e->setObjectName(nome);
+    e->setFixedWidth(largura);
+    e->setAlignment(Qt::AlignRight);
+    KeyFilter* f = regra == Teclas::Inteiro           ? filtroInteiro_
+                   : regra == Teclas::Decimal         ? filtroDecimal_
+                   : regra == Teclas::DecimalComSinal ? filtroComSinal_
+                   : regra == Teclas::Bitola          ? filtroBitola_
+                                                      : filtroNenhum_;
+    if (regra == Teclas::Bitola)
+        e->setReadOnly(true);
+    f->instala(e);
+    if (digitavel(regra))
+        caixasConferidas_->vigia(e, regra, rotuloCaixa);
+    caixas_.emplace_back(&m, e);
+    rotulos_[e] = rotuloCaixa;
+    if (!e->isReadOnly()) {
+        connect(e, &QLineEdit::textChanged, this, [this] { entradaEditada(true); });
+        // Enter in a box calculates.
+        connect(e, &QLineEdit::returnPressed, this, [this] { calcula(); });
+    }
+    return e;
+}
+
+QLineEdit* MainWindow::resultado(TextBox& m, const QString& nome, int largura)
+{
+    auto* e = new QLineEdit;
+    e->setObjectName(nome);
+    e->setReadOnly(true);
+    e->setFocusPolicy(Qt::ClickFocus);
+    e->setAlignment(Qt::AlignRight);
+    if (largura > 0)
+        e->setFixedWidth(largura);
+    filtroNenhum_->instala(e);
+    caixas_.emplace_back(&m, e);
+    rotulos_[e] = QStringLiteral("Resultado");
+    return e;
+}
+
+QComboBox* MainWindow::lista(ComboBox& m, const QString& nome, const QString& rotuloLista)
+{
+    auto* c = new QComboBox;
+    c->setObjectName(nome);
+    c->setEditable(false);
+    // The model's text is the item's data: a list may word its entries for the
+    // engineer ("rigidez κ") and still keep the program's text.
+    for (const auto& s : m.List)
+        c->addItem(qs(s), qs(s));
+    filtroNenhum_->instala(c);
+    listas_.emplace_back(&m, c);
+    rotulos_[c] = rotuloLista;
+    connect(c, &QComboBox::currentIndexChanged, this, [this] { entradaEditada(false); });
+    return c;
+}
+
+QCheckBox* MainWindow::marca(CheckBox& m, const QString& nome, const QString& texto)
+{
+    auto* c = new QCheckBox(texto);
+    c->setObjectName(nome);
+    marcas_.emplace_back(&m, c);
+    connect(c, &QCheckBox::stateChanged, this, [this] { entradaEditada(false); });
+    return c;
+}
+
+QRadioButton* MainWindow::opcao(OptionButton& m, const QString& nome)
+{
+    auto* r = new QRadioButton(qs(m.Caption));
+    r->setObjectName(nome);
+    opcoes_.emplace_back(&m, r);
+    connect(r, &QRadioButton::toggled, this, [this] { entradaEditada(false); });
+    return r;
+}
+
+QPushButton* MainWindow::botao(CommandButton& m, const QString& nome, std::function<void()> acao)
+{
+    auto* b = new QPushButton(qs(m.Caption));
+    b->setObjectName(nome);
+    b->setAutoDefault(false);
+    connect(b, &QPushButton::clicked, this, [acao = std::move(acao)] { acao(); });
+    botoes_.emplace_back(&m, b);
+    return b;
+}
+
+QPushButton* MainWindow::passo(CommandButton& m, const QString& nome, void (Program::*handler)(),
+                               const TextBox* passoCaixa)
+{
+    // A step changes its box as the user's edit, then calculates. An empty step
+    // moves nothing, as the program always did; the status bar says so.
+    auto* b = botao(m, nome, [this, handler, passoCaixa] {
+        if (calculaConferido([this, handler] { (program_.get()->*handler)(); }, Edicao::Usuario) && passoCaixa
+            && passoCaixa->Text.find_first_not_of(' ') == std::string::npos)
+            mostraNaBarra(QStringLiteral("O passo ao lado está vazio: o lado não mudou."));
+    });
+    b->setFixedWidth(26);
+    // Tab goes from box to box; the buttons are for the mouse.
+    b->setFocusPolicy(Qt::ClickFocus);
+    return b;
+}
+
+QWidget* MainWindow::montaEntradas()
+{
+    auto& f = program_->Form1;
+    auto* coluna = new QWidget;
+    auto* v = new QVBoxLayout(coluna);
+    v->setContentsMargins(0, 0, 0, 0);
+
+    // "Dimensões": each side with its "-" / "+" buttons and the step they use.
+    auto* dim = quadro("Dimensões", "Frame1");
+    auto* g = new QGridLayout(dim);
+    g->setHorizontalSpacing(4);
+    auto* t1 = caixa(f.Text1, QStringLiteral("Text1"), Teclas::Inteiro, 56, QStringLiteral("Base (cm)"));
+    auto* t2 = caixa(f.Text2, QStringLiteral("Text2"), Teclas::Inteiro, 56, QStringLiteral("Altura (cm)"));
+    auto* t23 = caixa(f.Text23, QStringLiteral("Text23"), Teclas::Decimal, 56, QStringLiteral("Comprimento (cm)"));
+    auto* passoRotulo = rotulo(QStringLiteral("passo"));
+    passoRotulo->setAlignment(Qt::AlignCenter);
+    g->addWidget(passoRotulo, 0, 5);
+    g->addWidget(rotulo(QStringLiteral("Base (cm)"), t1), 1, 0);
+    g->addWidget(t1, 1, 1);
+    g->addWidget(passo(f.Command13, QStringLiteral("Command13"), &Program::Command13_Click, &f.Text31), 1, 2);
+    g->addWidget(passo(f.Command16, QStringLiteral("Command16"), &Program::Command16_Click, &f.Text31), 1, 3);
+    g->addWidget(caixa(f.Text31, QStringLiteral("Text31"), Teclas::Inteiro, 40, QStringLiteral("Passo da base")), 1,
+                 5);
+    g->addWidget(rotulo(QStringLiteral("Altura (cm)"), t2), 2, 0);
+    g->addWidget(t2, 2, 1);
+    g->addWidget(passo(f.Command14, QStringLiteral("Command14"), &Program::Command14_Click, &f.Text32), 2, 2);
+    g->addWidget(passo(f.Command15, QStringLiteral("Command15"), &Program::Command15_Click, &f.Text32), 2, 3);
+    g->addWidget(caixa(f.Text32, QStringLiteral("Text32"), Teclas::Inteiro, 40, QStringLiteral("Passo da altura")),
+                 2, 5);
+    g->addWidget(rotulo(QStringLiteral("Comprimento (cm)"), t23), 3, 0);
+    g->addWidget(t23, 3, 1);
+    g->setColumnStretch(4, 1);
+    v->addWidget(dim);
+
+    // "Arranjo": bars on each face, d' and how it is found.
+    auto* arr = quadro("Arranjo", "Frame2");
+    auto* ga = new QGridLayout(arr);
+    ga->setHorizontalSpacing(4);
+    auto* t4 = caixa(f.Text4, QStringLiteral("Text4"), Teclas::Inteiro, 56, QStringLiteral("Barras nas faces da base"));
+    auto* t5 =
+        caixa(f.Text5, QStringLiteral("Text5"), Teclas::Inteiro, 56, QStringLiteral("Barras nas faces da altura"));
+    auto* t3 = caixa(f.Text3, QStringLiteral("Text3"), Teclas::Decimal, 72, QStringLiteral("d' (cm)"));
+    ga->addWidget(rotulo(QStringLiteral("n   de barras nas faces:")), 0, 0, 1, 5);
+    ga->addWidget(rotulo(QStringLiteral("Base"), t4), 1, 0);
+    ga->addWidget(t4, 1, 1);
+    ga->addWidget(passo(f.Command3, QStringLiteral("Command3"), &Program::Command3_Click), 1, 2);
+    ga->addWidget(passo(f.Command2, QStringLiteral("Command2"), &Program::Command2_Click), 1, 3);
+    ga->addWidget(rotulo(QStringLiteral("Altura"), t5), 2, 0);
+    ga->addWidget(t5, 2, 1);
+    ga->addWidget(passo(f.Command5, QStringLiteral("Command5"), &Program::Command5_Click), 2, 2);
+    ga->addWidget(passo(f.Command4, QStringLiteral("Command4"), &Program::Command4_Click), 2, 3);
+    ga->addWidget(rotulo(QStringLiteral("d' (cm)"), t3), 3, 0);
+    ga->addWidget(t3, 3, 1);
+    auto* estimar = botao(f.Command17, QStringLiteral("Command17"), [this] { abreEstimativaDLinha(); });
+    ga->addWidget(estimar, 3, 2, 1, 4);
+    auto* c3 = marca(f.Check3, QStringLiteral("Check3"), qs(f.Check3.Caption));
+    connect(c3, &QCheckBox::clicked, this, &MainWindow::marcouDLinhaAutomatico);
+    ga->addWidget(c3, 4, 0, 1, 6);
+    ga->setColumnStretch(5, 1);
+    v->addWidget(arr);
+
+    // "Esforços e Resistências": each quantity with its unit.
+    auto* esf = quadro("Esforços e Resistências", "Frame3");
+    auto* ge = new QGridLayout(esf);
+    ge->setHorizontalSpacing(6);
+    struct Linha {
+        const char* rotulo;
+        TextBox* caixa;
+        const char* nomeCaixa;
+        Teclas regra;
+        ComboBox* lista;
+        const char* nomeLista;
+    };
+    const Linha linhas[] = {
+        {"Nd", &f.Text16, "Text16", Teclas::DecimalComSinal, &f.Combo4, "Combo4"},
+        {"Md", &f.Text17, "Text17", Teclas::Decimal, &f.Combo5, "Combo5"},
+        {"Fck", &f.Text18, "Text18", Teclas::Decimal, &f.Combo6, "Combo6"},
+        {"Es", &f.Text20, "Text20", Teclas::Decimal, &f.Combo7, "Combo7"},
+    };
+    int linha = 0;
+    for (const auto& l : linhas) {
+        const QString nome = QString::fromUtf8(l.rotulo);
+        auto* e = caixa(*l.caixa, QString::fromUtf8(l.nomeCaixa), l.regra, 72, nome);
+        ge->addWidget(rotulo(nome, e), linha, 0);
+        ge->addWidget(e, linha, 1);
+        ge->addWidget(lista(*l.lista, QString::fromUtf8(l.nomeLista), QStringLiteral("Unidade de ") + nome), linha,
+                      2);
+        ++linha;
+    }
+    auto* t21 = caixa(f.Text21, QStringLiteral("Text21"), Teclas::Decimal, 72, QStringLiteral("γc"));
+    auto* t22 = caixa(f.Text22, QStringLiteral("Text22"), Teclas::Decimal, 72, QStringLiteral("γs"));
+    ge->addWidget(rotulo(QStringLiteral("γc"), t21), linha, 0);
+    ge->addWidget(t21, linha, 1);
+    ge->addWidget(rotulo(QStringLiteral("coef. do concreto")), linha++, 2);
+    ge->addWidget(rotulo(QStringLiteral("γs"), t22), linha, 0);
+    ge->addWidget(t22, linha, 1);
+    ge->addWidget(rotulo(QStringLiteral("coef. do aço")), linha++, 2);
+    auto* c1 = lista(f.Combo1, QStringLiteral("Combo1"), QStringLiteral("Aço"));
+    ge->addWidget(rotulo(QStringLiteral("Aço"), c1), linha, 0);
+    ge->addWidget(c1, linha, 1, 1, 2);
+    ge->setColumnStretch(2, 1);
+    v->addWidget(esf);
+    montaNorma2014(v);
+    v->addStretch();
+    coluna->setFixedWidth(300);
+    return coluna;
+}
+
+QWidget* MainWindow::montaOpcoes()
+{
+    auto& f = program_->Form1;
+    auto* coluna = new QWidget;
+    auto* v = new QVBoxLayout(coluna);
+    v->setContentsMargins(0, 0, 0, 0);
+
+    auto* cob = quadro("Cobrimento", "Frame4");
+    auto* gc = new QVBoxLayout(cob);
+    auto* o1 = opcao(f.Option1, QStringLiteral("Option1"));
+    auto* o2 = opcao(f.Option2, QStringLiteral("Option2"));
+    grupos_.push_back({o1, o2});
+    gc->addWidget(o1);
+    gc->addWidget(o2);
+    auto* c2 = lista(f.Combo2, QStringLiteral("Combo2"), QStringLiteral("Classe de agressividade ambiental"));
+    c2->setFixedWidth(64);
+    auto* classe = rotulo(QStringLiteral("Classe de agressividade ambiental"), c2);
+    classe->setWordWrap(true);
+    auto* linhaClasse = new QHBoxLayout;
+    linhaClasse->addWidget(classe, 1);
+    linhaClasse->addWidget(c2);
+    gc->addLayout(linhaClasse);
+    gc->addWidget(marca(f.Check1, QStringLiteral("Check1"), QStringLiteral("Corrigir o cobrimento sem perguntar")));
+    v->addWidget(cob);
+
+    // "Bitola (mm)": the eight catalogue bars, the one of the result highlighted;
+    // with "Automático" clear, the one clicked is fixed for the calculation.
+    auto* bit = quadro("Bitola (mm)", "Frame5");
+    auto* gb = new QGridLayout(bit);
+    gb->setHorizontalSpacing(4);
+    for (int i = 0; i < 8; ++i) {
+        const auto k = static_cast<std::size_t>(i);
+        auto* e = caixa(f.Text7[k], QStringLiteral("Text7(%1)").arg(i), Teclas::Bitola, 48,
+                        QStringLiteral("Bitola %1 mm").arg(qs(f.Text7[k].Text)));
+        e->setAlignment(Qt::AlignCenter);
+        e->setFocusPolicy(Qt::ClickFocus);
+        e->setCursor(Qt::PointingHandCursor);
+        e->installEventFilter(this);
+        bitolas_[k] = e;
+        gb->addWidget(e, i / 4, i % 4);
+    }
+    gb->addWidget(marca(f.Check2, QStringLiteral("Check2"), qs(f.Check2.Caption)), 2, 0, 1, 4);
+    v->addWidget(bit);
+
+    auto* est = quadro("Estribos", "Frame6");
+    auto* ge = new QGridLayout(est);
+    auto* o3 = opcao(f.Option3, QStringLiteral("Option3"));
+    auto* o5 = opcao(f.Option5, QStringLiteral("Option5"));
+    auto* o6 = opcao(f.Option6, QStringLiteral("Option6"));
+    grupos_.push_back({o3, o5, o6});
+    ge->addWidget(o3, 0, 0);
+    ge->addWidget(lista(f.Combo3, QStringLiteral("Combo3"), QStringLiteral("Estribo pré-definido")), 0, 1);
+    ge->addWidget(o5, 1, 0, 1, 2);
+    ge->addWidget(o6, 2, 0, 1, 2);
+    {
+        // The typed stirrup on its own line under the option, indented as its part.
+        auto* digitado = new QWidget;
+        auto* hd = new QHBoxLayout(digitado);
+        hd->setContentsMargins(24, 0, 0, 0);
+        estriboDiametro_ = lista(f.EstriboDiametro, QStringLiteral("EstriboDiametro"), QStringLiteral("Diâmetro do estribo"));
+        estriboEspacamento_ = caixa(f.EstriboEspacamento, QStringLiteral("EstriboEspacamento"), Teclas::Decimal, 48,
+                                    QStringLiteral("Espaçamento do estribo (cm)"));
+        hd->addWidget(new QLabel(QStringLiteral("φ")));
+        hd->addWidget(estriboDiametro_, 1);
+        hd->addWidget(new QLabel(QStringLiteral("c/")));
+        hd->addWidget(estriboEspacamento_);
+        hd->addWidget(new QLabel(QStringLiteral("cm")));
+        ge->addWidget(digitado, 3, 0, 1, 2);
+        // Only "Definir manualmente" reads them; the others leave them as they are.
+        connect(o6, &QRadioButton::toggled, this, [this](bool marcado) {
+            estriboDiametro_->setEnabled(marcado);
+            estriboEspacamento_->setEnabled(marcado);
+        });
+    }
+    ge->addWidget(marca(f.Check5, QStringLiteral("Check5"), qs(f.Check5.Caption)), 4, 0, 1, 2);
+    ge->setColumnStretch(1, 1);
+    v->addWidget(est);
+
+    auto* gan = quadro("Ganchos", "Frame7");
+    auto* gg = new QVBoxLayout(gan);
+    auto* o90 = opcao(f.Option7[1], QStringLiteral("Option7(1)"));
+    auto* o45 = opcao(f.Option7[0], QStringLiteral("Option7(0)"));
+    grupos_.push_back({o90, o45});
+    gg->addWidget(o90);
+    gg->addWidget(o45);
+    v->addWidget(gan);
+    v->addWidget(norma2014_); // made with the rule set's row in montaEntradas
+    v->addStretch();
+    coluna->setFixedWidth(270);
+    return coluna;
+}
+
+} // namespace pilarix::ui
