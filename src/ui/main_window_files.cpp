@@ -1,0 +1,234 @@
+// The main window's file commands: new, open, save, save as, the recent projects of
+// the "Arquivo" menu, the question before unsaved input is lost, and the title.
+
+#include "ui/main_window.h"
+#include "ui/window_parts.h"
+
+#include "base/number_text.h"
+#include "engine/catalogue.h"
+#include "render/drawing_export.h"
+#include "render/report_pdf.h"
+#include "ui/cases_dialog.h"
+#include "ui/about_dialog.h"
+#include "ui/d_estimate_dialog.h"
+#include "ui/help_dialog.h"
+#include "ui/box_check.h"
+#include "ui/input_edit.h"
+#include "ui/input_tips.h"
+#include "ui/interaction_dialog.h"
+#include "ui/norma2014_panel.h"
+#include "ui/other_values_dialog.h"
+#include "ui/project_data_dialog.h"
+#include "ui/qt_dialogs.h"
+#include "ui/section_canvas.h"
+#include "ui/solutions_dialog.h"
+#include "ui/verdict_text.h"
+#include "ui/wheel_guard.h"
+#include "window/solution_details.h"
+#include "window/units.h"
+#include "window/window_input.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSettings>
+#include <QShortcutEvent>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTextBrowser>
+#include <QUndoCommand>
+#include <QUndoStack>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace pilarix::ui {
+
+using namespace window_parts;
+
+void MainWindow::atualizaTitulo()
+{
+    QString titulo = qs(program_->Form1.Caption);
+    if (!arquivoAtual_.isEmpty())
+        titulo += QStringLiteral(" — ") + QFileInfo(arquivoAtual_).fileName();
+    if (modificado())
+        titulo += QStringLiteral(" *");
+    if (windowTitle() != titulo)
+        setWindowTitle(titulo);
+}
+
+// ---- files ----
+
+bool MainWindow::podeDescartar(const QString& acao)
+{
+    copiaParaModelo();
+    if (!modificado())
+        return true;
+    const QString projeto =
+        arquivoAtual_.isEmpty() ? QStringLiteral("O projeto sem nome") : QStringLiteral("O projeto \"%1\"").arg(QFileInfo(arquivoAtual_).fileName());
+    const int resposta = dialogos_->askSaveChanges(
+        (projeto + QStringLiteral(" tem alterações não salvas. Salvar antes de %1?").arg(acao)).toStdString());
+    if (resposta == 1)
+        return salva();
+    return resposta == 2;
+}
+
+void MainWindow::guardouOuAbriu(const QString& nome)
+{
+    arquivoAtual_ = nome;
+    fotoSalva_ = fotoDaEntrada(*program_, Alcance::Projeto);
+    lembraRecente(nome);
+    atualizaTitulo();
+}
+
+void MainWindow::novo()
+{
+    if (!podeDescartar(QStringLiteral("começar um novo")))
+        return;
+    executa([this] {
+        auto& p = *program_;
+        p.ErroArquivo.clear();
+        p.Command7_Click();
+        dLinhaSegueAMarca(p.Form1);
+        if (p.ErroArquivo.empty())
+            p.LimpaResultados();
+    });
+    arquivoAtual_.clear();
+    fotoSalva_ = fotoDaEntrada(*program_, Alcance::Projeto);
+    pilhaDesfazer_->clear();
+    mostraMensagens();
+    atualizaTitulo();
+}
+
+void MainWindow::abre()
+{
+    if (!podeDescartar(QStringLiteral("abrir outro")))
+        return;
+    abreArquivo(qs(dialogos_->askOpenFileName()));
+}
+
+void MainWindow::abreArquivo(const QString& nome)
+{
+    // As "&Abrir arquivo..." always did: the file is loaded and the window calculated,
+    // also when no file was chosen; the input is checked first.
+    bool carregou = false;
+    executa([this, &nome, &carregou] {
+        auto& p = *program_;
+        p.ErroArquivo.clear();
+        if (!nome.isEmpty()) {
+            p.NomeArquivo = nome.toStdString();
+            p.Carrega33();
+            dLinhaSegueAMarca(p.Form1);
+            carregou = p.ErroArquivo.empty();
+        }
+    });
+    if (carregou) {
+        pilhaDesfazer_->clear();
+        guardouOuAbriu(nome);
+    } else if (!nome.isEmpty()) {
+        // A recent file that can no longer be read leaves the list.
+        QSettings s(QString::fromUtf8(kOrganizacao), QString::fromUtf8(kAplicacao));
+        QStringList lista = s.value(QString::fromUtf8(kChaveRecentes)).toStringList();
+        lista.removeAll(QFileInfo(nome).absoluteFilePath());
+        s.setValue(QString::fromUtf8(kChaveRecentes), lista);
+        montaRecentes();
+    }
+    calcula();
+}
+
+bool MainWindow::salva()
+{
+    if (arquivoAtual_.isEmpty())
+        return salvaComo();
+    bool gravou = false;
+    executa([this, &gravou] {
+        auto& p = *program_;
+        p.ErroArquivo.clear();
+        p.NomeArquivo = arquivoAtual_.toStdString();
+        p.Grava32();
+        gravou = p.ErroArquivo.empty();
+    });
+    if (gravou) {
+        guardouOuAbriu(arquivoAtual_);
+        mostraNaBarra(QStringLiteral("Salvo em %1").arg(arquivoAtual_));
+    }
+    return gravou;
+}
+
+bool MainWindow::salvaComo()
+{
+    bool gravou = false;
+    executa([this, &gravou] {
+        auto& p = *program_;
+        p.ErroArquivo.clear();
+        p.mnuItemSave_Click();
+        gravou = !p.NomeArquivo.empty() && p.ErroArquivo.empty();
+    });
+    if (gravou) {
+        guardouOuAbriu(qs(program_->NomeArquivo));
+        mostraNaBarra(QStringLiteral("Salvo em %1").arg(arquivoAtual_));
+    }
+    return gravou;
+}
+
+QStringList MainWindow::arquivosRecentes() const
+{
+    QSettings s(QString::fromUtf8(kOrganizacao), QString::fromUtf8(kAplicacao));
+    return s.value(QString::fromUtf8(kChaveRecentes)).toStringList();
+}
+
+void MainWindow::lembraRecente(const QString& nome)
+{
+    QSettings s(QString::fromUtf8(kOrganizacao), QString::fromUtf8(kAplicacao));
+    QStringList lista = s.value(QString::fromUtf8(kChaveRecentes)).toStringList();
+    const QString caminho = QFileInfo(nome).absoluteFilePath();
+    lista.removeAll(caminho);
+    lista.prepend(caminho);
+    while (lista.size() > kMaximoRecentes)
+        lista.removeLast();
+    s.setValue(QString::fromUtf8(kChaveRecentes), lista);
+    montaRecentes();
+}
+
+void MainWindow::montaRecentes()
+{
+    menuRecentes_->clear();
+    const QStringList lista = arquivosRecentes();
+    int n = 0;
+    for (const QString& caminho : lista) {
+        auto* a = menuRecentes_->addAction(QStringLiteral("&%1 %2").arg(++n).arg(QFileInfo(caminho).fileName()));
+        a->setToolTip(caminho);
+        a->setStatusTip(caminho);
+        connect(a, &QAction::triggered, this, [this, caminho] {
+            if (podeDescartar(QStringLiteral("abrir outro")))
+                abreArquivo(caminho);
+        });
+    }
+    if (lista.isEmpty()) {
+        menuRecentes_->addAction(QStringLiteral("(nenhum)"))->setEnabled(false);
+        return;
+    }
+    menuRecentes_->addSeparator();
+    menuRecentes_->addAction(QStringLiteral("&Limpar a lista"), this, [this] {
+        QSettings s(QString::fromUtf8(kOrganizacao), QString::fromUtf8(kAplicacao));
+        s.remove(QString::fromUtf8(kChaveRecentes));
+        montaRecentes();
+    });
+}
+
+} // namespace pilarix::ui
