@@ -13,50 +13,11 @@
 #include "ui/about_dialog.h"
 #include "ui/d_estimate_dialog.h"
 #include "ui/help_dialog.h"
-#include "ui/box_check.h"
-#include "ui/input_edit.h"
-#include "ui/input_tips.h"
 #include "ui/interaction_dialog.h"
-#include "ui/norma2014_panel.h"
 #include "ui/other_values_dialog.h"
-#include "ui/project_data_dialog.h"
-#include "ui/qt_dialogs.h"
-#include "ui/section_canvas.h"
 #include "ui/solutions_dialog.h"
-#include "ui/verdict_text.h"
-#include "ui/wheel_guard.h"
 #include "window/solution_details.h"
-#include "window/units.h"
 #include "window/window_input.h"
-
-#include <QAction>
-#include <QCheckBox>
-#include <QCloseEvent>
-#include <QComboBox>
-#include <QFileInfo>
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QGuiApplication>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenuBar>
-#include <QMouseEvent>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QSettings>
-#include <QShortcutEvent>
-#include <QSplitter>
-#include <QStatusBar>
-#include <QTextBrowser>
-#include <QUndoCommand>
-#include <QUndoStack>
-#include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace pilarix::ui {
 
