@@ -3,6 +3,7 @@
 
 #include "engine/catalogue.h"
 #include "ui/box_check.h"
+#include "ui/form_binding.h"
 #include "ui/input_edit.h"
 #include "ui/input_tips.h"
 #include "ui/project_data_dialog.h"
@@ -46,13 +47,10 @@ MainWindow::MainWindow(DialogPort* dialogs, QWidget* parent) : QMainWindow(paren
     dialogos_ = dialogs;
     program_ = std::make_unique<Program>(*dialogos_);
 
-    auto recusa = [this](QWidget* w, const QString& motivo) { recusouTecla(w, motivo); };
-    filtroInteiro_ = new KeyFilter(Teclas::Inteiro, recusa, this);
-    filtroDecimal_ = new KeyFilter(Teclas::Decimal, recusa, this);
-    filtroComSinal_ = new KeyFilter(Teclas::DecimalComSinal, recusa, this);
-    filtroBitola_ = new KeyFilter(Teclas::Bitola, recusa, this);
-    filtroNenhum_ = new KeyFilter(Teclas::Nenhuma, recusa, this);
-    caixasConferidas_ = new BoxCheck([this](const QString& motivo) { mostraNaBarra(motivo); }, this);
+    formulario_ = new FormBinding({[this](bool digitacao) { entradaEditada(digitacao); }, [this] { calcula(); },
+                                   [this](QWidget* w, const QString& motivo) { recusouTecla(w, motivo); },
+                                   [this](const QString& motivo) { mostraNaBarra(motivo); }},
+                                  this);
 
     pilhaDesfazer_ = new QUndoStack(this);
 
@@ -256,21 +254,7 @@ void MainWindow::montaDicas() { aplicaDicas(centralWidget(), bitolas_); }
 
 // ---- model <-> widgets ----
 
-void MainWindow::copiaParaModelo()
-{
-    for (auto& [m, e] : caixas_)
-        if (!e->isReadOnly())
-            m->Text = e->text().toStdString();
-    // A list showing nothing (a text from a file that is not in the list) keeps the
-    // model's text instead of blanking it.
-    for (auto& [m, c] : listas_)
-        if (c->currentIndex() >= 0)
-            m->Text = c->currentData().toString().toStdString();
-    for (auto& [m, c] : marcas_)
-        m->Value = c->checkState() == Qt::Checked ? 1 : c->checkState() == Qt::PartiallyChecked ? 2 : 0;
-    for (auto& [m, r] : opcoes_)
-        m->Value = r->isChecked();
-}
+void MainWindow::copiaParaModelo() { formulario_->copiaParaModelo(); }
 
 void MainWindow::atualiza()
 {
@@ -279,17 +263,7 @@ void MainWindow::atualiza()
     const auto& f = program_->Form1;
     const bool fixa = !f.Check2.ticked() && program_->BitolaFixa >= engine::kFirstLongitudinalBar
                       && program_->BitolaFixa <= engine::kBarCount;
-    for (auto& [m, e] : caixas_) {
-        const QString t = qs(m->Text);
-        if (e->text() != t) {
-            e->setText(t);
-            e->setCursorPosition(0);
-        }
-        e->setEnabled(m->Enabled);
-        e->setVisible(m->Visible);
-        const bool deResultado = e->isReadOnly();
-        pintaCaixa(e, *m, desatualizado_ && deResultado);
-    }
+    formulario_->pintaCaixas(desatualizado_);
     // The fixed bar is framed in orange and bold, in the colours of the result.
     for (std::size_t i = 0; i < bitolas_.size(); ++i) {
         const bool escolhida = fixa && program_->BitolaFixa == engine::kFirstLongitudinalBar + static_cast<int>(i);
@@ -304,42 +278,10 @@ void MainWindow::atualiza()
         if (bitolas_[i]->styleSheet() != estilo)
             bitolas_[i]->setStyleSheet(estilo);
     }
-    for (auto& [m, c] : listas_) {
-        c->setCurrentIndex(c->findData(qs(m->Text), Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive));
-        c->setEnabled(m->Enabled);
-    }
-    for (auto& [m, c] : marcas_) {
-        if (m->Value == 2) {
-            c->setTristate(true);
-            c->setCheckState(Qt::PartiallyChecked);
-        } else {
-            c->setTristate(false);
-            c->setCheckState(m->Value == 1 ? Qt::Checked : Qt::Unchecked);
-        }
-        c->setEnabled(m->Enabled);
-    }
-    // A group may hold no selected button (a file may say so): the buttons are let
-    // out of their group while they are set.
-    for (auto& g : grupos_)
-        for (auto* r : g)
-            r->setAutoExclusive(false);
-    for (auto& [m, r] : opcoes_) {
-        r->setText(qs(m->Caption));
-        r->setChecked(m->Value);
-        r->setEnabled(m->Enabled);
-        r->setVisible(m->Visible);
-    }
-    for (auto& g : grupos_)
-        for (auto* r : g)
-            r->setAutoExclusive(true);
+    formulario_->pintaOutros();
     if (estriboDiametro_) {
         estriboDiametro_->setEnabled(f.Option6.Value);
         estriboEspacamento_->setEnabled(f.Option6.Value);
-    }
-    for (auto& [m, b] : botoes_) {
-        b->setText(qs(m->Caption));
-        b->setEnabled(m->Enabled);
-        b->setVisible(m->Visible);
     }
     // The canvas keeps its zoom while the drawing it shows stays the same.
     if (program_->VersaoDoDesenho != versaoDoDesenho_) {
@@ -437,7 +379,7 @@ bool MainWindow::entradaConfere()
     copiaParaModelo();
     // A box whose text the program cannot read as the engineer typed it comes first.
     std::optional<std::string> problema;
-    if (const auto recusa = caixasConferidas_->primeiraRecusada()) {
+    if (const auto recusa = formulario_->conferidas().primeiraRecusada()) {
         problema = recusa->mensagem.toStdString();
         recusa->caixa->setFocus();
     } else {
@@ -526,8 +468,8 @@ void MainWindow::escolheBitola(int i)
 void MainWindow::recusouTecla(QWidget* caixa, const QString& motivo)
 {
     dialogos_->beep();
-    const auto it = rotulos_.find(caixa);
-    mostraNaBarra((it != rotulos_.end() ? it->second : QStringLiteral("Caixa")) + QStringLiteral(": ") + motivo);
+    const QString* nome = formulario_->rotuloDe(caixa);
+    mostraNaBarra((nome ? *nome : QStringLiteral("Caixa")) + QStringLiteral(": ") + motivo);
 }
 
 void MainWindow::mostraNaBarra(const QString& texto) { statusBar()->showMessage(texto, 8000); }

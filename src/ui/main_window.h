@@ -42,7 +42,7 @@ class QUndoStack;
 
 namespace pilarix::ui {
 
-class BoxCheck;
+class FormBinding;
 class QtDialogs;
 class SectionCanvas;
 class OtherValuesDialog;
@@ -141,12 +141,6 @@ private:
     void propoeGamaC(int indiceDaNorma);
     void mostra2014();
 
-    QLineEdit* caixa(TextBox& m, const QString& nome, Teclas regra, int largura, const QString& rotulo);
-    QLineEdit* resultado(TextBox& m, const QString& nome, int largura);
-    QComboBox* lista(ComboBox& m, const QString& nome, const QString& rotulo);
-    QCheckBox* marca(CheckBox& m, const QString& nome, const QString& texto);
-    QRadioButton* opcao(OptionButton& m, const QString& nome);
-    QPushButton* botao(CommandButton& m, const QString& nome, std::function<void()> acao);
     QPushButton* passo(CommandButton& m, const QString& nome, void (Program::*handler)(),
                        const TextBox* passoCaixa = nullptr);
     QAction* acao(const QString& texto, const QString& nome, std::function<void()> f);
@@ -184,21 +178,8 @@ private:
     DialogPort* dialogos_;
     std::unique_ptr<Program> program_;
 
-    std::vector<std::pair<TextBox*, QLineEdit*>> caixas_;
-    std::vector<std::pair<ComboBox*, QComboBox*>> listas_;
-    std::vector<std::pair<CheckBox*, QCheckBox*>> marcas_;
-    std::vector<std::pair<OptionButton*, QRadioButton*>> opcoes_;
-    std::vector<std::pair<CommandButton*, QPushButton*>> botoes_;
-    std::vector<std::vector<QRadioButton*>> grupos_;
-    std::map<const QWidget*, QString> rotulos_; // the name a message gives each input
+    FormBinding* formulario_ = nullptr; // the widgets bound to the form model, both ways
     std::array<QLineEdit*, 8> bitolas_{};
-
-    KeyFilter* filtroInteiro_;
-    KeyFilter* filtroDecimal_;
-    KeyFilter* filtroComSinal_;
-    KeyFilter* filtroBitola_;
-    KeyFilter* filtroNenhum_;
-    BoxCheck* caixasConferidas_; // every numeric box's text, refused whole while the program cannot read it
 
     QWidget* colunaEntradas_ = nullptr;
     QWidget* colunaOpcoes_ = nullptr;

@@ -6,6 +6,7 @@
 #include "ui/main_window.h"
 
 #include "report/moment_contour.h"
+#include "ui/form_binding.h"
 #include "ui/moment_contour_dialog.h"
 #include "ui/norma2014_panel.h"
 #include "ui/norma2014_results.h"
@@ -26,9 +27,9 @@ void MainWindow::montaNorma2014(QBoxLayout* entradas)
 {
     FabricaDeEntradas fabrica{
         [this](TextBox& m, const QString& nome, Teclas regra, int largura, const QString& rotulo) {
-            return caixa(m, nome, regra, largura, rotulo);
+            return formulario_->caixa(m, nome, regra, largura, rotulo);
         },
-        [this](ComboBox& m, const QString& nome, const QString& rotulo) { return lista(m, nome, rotulo); }};
+        [this](ComboBox& m, const QString& nome, const QString& rotulo) { return formulario_->lista(m, nome, rotulo); }};
     norma2014_ = new Norma2014Panel(program_->Form1, fabrica);
     // The rule set heads the input; its frame goes below the options, where a
     // 1366 × 768 screen still has room (montaOpcoes).

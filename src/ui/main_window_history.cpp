@@ -2,6 +2,7 @@
 // on show and the list of the search are marked out of date against the input.
 
 #include "ui/main_window.h"
+#include "ui/form_binding.h"
 #include "ui/window_parts.h"
 
 #include "ui/input_edit.h"
@@ -40,8 +41,8 @@ void MainWindow::registraEdicao(const QString& descricao, bool digitacao)
     if (texto.isEmpty() && mudancas.size() == 1) {
         const QString nome = qs(mudancas.front().nome).section(QLatin1Char('|'), 0, 0);
         auto* w = centralWidget()->findChild<QWidget*>(nome);
-        if (w && rotulos_.count(w))
-            texto = rotulos_.at(w);
+        if (const QString* rotulo = w ? formulario_->rotuloDe(w) : nullptr)
+            texto = *rotulo;
         else if (auto* b = qobject_cast<QAbstractButton*>(w); b && !b->text().isEmpty())
             texto = b->text().remove(QLatin1Char('&')).simplified();
         else

@@ -1,12 +1,11 @@
 // The main window's input panels: the frames "Dimensões", "Arranjo", "Esforços e
-// Resistências", "Cobrimento", "Bitola", "Estribos" and "Ganchos", built in code, and the
-// factories that bind each widget to its control of the form model as it is made
-// (its key filter, its check, the edit and Enter wiring).
+// Resistências", "Cobrimento", "Bitola", "Estribos" and "Ganchos", built in code, each
+// widget made bound to its control of the form model (form_binding.h).
 
 #include "ui/main_window.h"
 #include "ui/window_parts.h"
 
-#include "ui/box_check.h"
+#include "ui/form_binding.h"
 #include "ui/norma2014_panel.h"
 
 #include <QCheckBox>
@@ -25,97 +24,12 @@ using namespace window_parts;
 
 // ---- building the window ----
 
-QLineEdit* MainWindow::caixa(TextBox& m, const QString& nome, Teclas regra, int largura, const QString& rotuloCaixa)
-{
-    auto* e = new QLineEdit;
-    e->setObjectName(nome);
-    e->setFixedWidth(largura);
-    e->setAlignment(Qt::AlignRight);
-    KeyFilter* f = regra == Teclas::Inteiro           ? filtroInteiro_
-                   : regra == Teclas::Decimal         ? filtroDecimal_
-                   : regra == Teclas::DecimalComSinal ? filtroComSinal_
-                   : regra == Teclas::Bitola          ? filtroBitola_
-                                                      : filtroNenhum_;
-    if (regra == Teclas::Bitola)
-        e->setReadOnly(true);
-    f->instala(e);
-    if (digitavel(regra))
-        caixasConferidas_->vigia(e, regra, rotuloCaixa);
-    caixas_.emplace_back(&m, e);
-    rotulos_[e] = rotuloCaixa;
-    if (!e->isReadOnly()) {
-        connect(e, &QLineEdit::textChanged, this, [this] { entradaEditada(true); });
-        // Enter in a box calculates.
-        connect(e, &QLineEdit::returnPressed, this, [this] { calcula(); });
-    }
-    return e;
-}
-
-QLineEdit* MainWindow::resultado(TextBox& m, const QString& nome, int largura)
-{
-    auto* e = new QLineEdit;
-    e->setObjectName(nome);
-    e->setReadOnly(true);
-    e->setFocusPolicy(Qt::ClickFocus);
-    e->setAlignment(Qt::AlignRight);
-    if (largura > 0)
-        e->setFixedWidth(largura);
-    filtroNenhum_->instala(e);
-    caixas_.emplace_back(&m, e);
-    rotulos_[e] = QStringLiteral("Resultado");
-    return e;
-}
-
-QComboBox* MainWindow::lista(ComboBox& m, const QString& nome, const QString& rotuloLista)
-{
-    auto* c = new QComboBox;
-    c->setObjectName(nome);
-    c->setEditable(false);
-    // The model's text is the item's data: a list may word its entries for the
-    // engineer ("rigidez κ") and still keep the program's text.
-    for (const auto& s : m.List)
-        c->addItem(qs(s), qs(s));
-    filtroNenhum_->instala(c);
-    listas_.emplace_back(&m, c);
-    rotulos_[c] = rotuloLista;
-    connect(c, &QComboBox::currentIndexChanged, this, [this] { entradaEditada(false); });
-    return c;
-}
-
-QCheckBox* MainWindow::marca(CheckBox& m, const QString& nome, const QString& texto)
-{
-    auto* c = new QCheckBox(texto);
-    c->setObjectName(nome);
-    marcas_.emplace_back(&m, c);
-    connect(c, &QCheckBox::stateChanged, this, [this] { entradaEditada(false); });
-    return c;
-}
-
-QRadioButton* MainWindow::opcao(OptionButton& m, const QString& nome)
-{
-    auto* r = new QRadioButton(qs(m.Caption));
-    r->setObjectName(nome);
-    opcoes_.emplace_back(&m, r);
-    connect(r, &QRadioButton::toggled, this, [this] { entradaEditada(false); });
-    return r;
-}
-
-QPushButton* MainWindow::botao(CommandButton& m, const QString& nome, std::function<void()> acao)
-{
-    auto* b = new QPushButton(qs(m.Caption));
-    b->setObjectName(nome);
-    b->setAutoDefault(false);
-    connect(b, &QPushButton::clicked, this, [acao = std::move(acao)] { acao(); });
-    botoes_.emplace_back(&m, b);
-    return b;
-}
-
 QPushButton* MainWindow::passo(CommandButton& m, const QString& nome, void (Program::*handler)(),
                                const TextBox* passoCaixa)
 {
     // A step changes its box as the user's edit, then calculates. An empty step
     // moves nothing, as the program always did; the status bar says so.
-    auto* b = botao(m, nome, [this, handler, passoCaixa] {
+    auto* b = formulario_->botao(m, nome, [this, handler, passoCaixa] {
         if (calculaConferido([this, handler] { (program_.get()->*handler)(); }, Edicao::Usuario) && passoCaixa
             && passoCaixa->Text.find_first_not_of(' ') == std::string::npos)
             mostraNaBarra(QStringLiteral("O passo ao lado está vazio: o lado não mudou."));
@@ -137,9 +51,9 @@ QWidget* MainWindow::montaEntradas()
     auto* dim = quadro("Dimensões", "Frame1");
     auto* g = new QGridLayout(dim);
     g->setHorizontalSpacing(4);
-    auto* t1 = caixa(f.Text1, QStringLiteral("Text1"), Teclas::Inteiro, 56, QStringLiteral("Base (cm)"));
-    auto* t2 = caixa(f.Text2, QStringLiteral("Text2"), Teclas::Inteiro, 56, QStringLiteral("Altura (cm)"));
-    auto* t23 = caixa(f.Text23, QStringLiteral("Text23"), Teclas::Decimal, 56, QStringLiteral("Comprimento (cm)"));
+    auto* t1 = formulario_->caixa(f.Text1, QStringLiteral("Text1"), Teclas::Inteiro, 56, QStringLiteral("Base (cm)"));
+    auto* t2 = formulario_->caixa(f.Text2, QStringLiteral("Text2"), Teclas::Inteiro, 56, QStringLiteral("Altura (cm)"));
+    auto* t23 = formulario_->caixa(f.Text23, QStringLiteral("Text23"), Teclas::Decimal, 56, QStringLiteral("Comprimento (cm)"));
     auto* passoRotulo = rotulo(QStringLiteral("passo"));
     passoRotulo->setAlignment(Qt::AlignCenter);
     g->addWidget(passoRotulo, 0, 5);
@@ -147,13 +61,13 @@ QWidget* MainWindow::montaEntradas()
     g->addWidget(t1, 1, 1);
     g->addWidget(passo(f.Command13, QStringLiteral("Command13"), &Program::Command13_Click, &f.Text31), 1, 2);
     g->addWidget(passo(f.Command16, QStringLiteral("Command16"), &Program::Command16_Click, &f.Text31), 1, 3);
-    g->addWidget(caixa(f.Text31, QStringLiteral("Text31"), Teclas::Inteiro, 40, QStringLiteral("Passo da base")), 1,
+    g->addWidget(formulario_->caixa(f.Text31, QStringLiteral("Text31"), Teclas::Inteiro, 40, QStringLiteral("Passo da base")), 1,
                  5);
     g->addWidget(rotulo(QStringLiteral("Altura (cm)"), t2), 2, 0);
     g->addWidget(t2, 2, 1);
     g->addWidget(passo(f.Command14, QStringLiteral("Command14"), &Program::Command14_Click, &f.Text32), 2, 2);
     g->addWidget(passo(f.Command15, QStringLiteral("Command15"), &Program::Command15_Click, &f.Text32), 2, 3);
-    g->addWidget(caixa(f.Text32, QStringLiteral("Text32"), Teclas::Inteiro, 40, QStringLiteral("Passo da altura")),
+    g->addWidget(formulario_->caixa(f.Text32, QStringLiteral("Text32"), Teclas::Inteiro, 40, QStringLiteral("Passo da altura")),
                  2, 5);
     g->addWidget(rotulo(QStringLiteral("Comprimento (cm)"), t23), 3, 0);
     g->addWidget(t23, 3, 1);
@@ -164,10 +78,10 @@ QWidget* MainWindow::montaEntradas()
     auto* arr = quadro("Arranjo", "Frame2");
     auto* ga = new QGridLayout(arr);
     ga->setHorizontalSpacing(4);
-    auto* t4 = caixa(f.Text4, QStringLiteral("Text4"), Teclas::Inteiro, 56, QStringLiteral("Barras nas faces da base"));
+    auto* t4 = formulario_->caixa(f.Text4, QStringLiteral("Text4"), Teclas::Inteiro, 56, QStringLiteral("Barras nas faces da base"));
     auto* t5 =
-        caixa(f.Text5, QStringLiteral("Text5"), Teclas::Inteiro, 56, QStringLiteral("Barras nas faces da altura"));
-    auto* t3 = caixa(f.Text3, QStringLiteral("Text3"), Teclas::Decimal, 72, QStringLiteral("d' (cm)"));
+        formulario_->caixa(f.Text5, QStringLiteral("Text5"), Teclas::Inteiro, 56, QStringLiteral("Barras nas faces da altura"));
+    auto* t3 = formulario_->caixa(f.Text3, QStringLiteral("Text3"), Teclas::Decimal, 72, QStringLiteral("d' (cm)"));
     ga->addWidget(rotulo(QStringLiteral("n   de barras nas faces:")), 0, 0, 1, 5);
     ga->addWidget(rotulo(QStringLiteral("Base"), t4), 1, 0);
     ga->addWidget(t4, 1, 1);
@@ -179,9 +93,9 @@ QWidget* MainWindow::montaEntradas()
     ga->addWidget(passo(f.Command4, QStringLiteral("Command4"), &Program::Command4_Click), 2, 3);
     ga->addWidget(rotulo(QStringLiteral("d' (cm)"), t3), 3, 0);
     ga->addWidget(t3, 3, 1);
-    auto* estimar = botao(f.Command17, QStringLiteral("Command17"), [this] { abreEstimativaDLinha(); });
+    auto* estimar = formulario_->botao(f.Command17, QStringLiteral("Command17"), [this] { abreEstimativaDLinha(); });
     ga->addWidget(estimar, 3, 2, 1, 4);
-    auto* c3 = marca(f.Check3, QStringLiteral("Check3"), qs(f.Check3.Caption));
+    auto* c3 = formulario_->marca(f.Check3, QStringLiteral("Check3"), qs(f.Check3.Caption));
     connect(c3, &QCheckBox::clicked, this, &MainWindow::marcouDLinhaAutomatico);
     ga->addWidget(c3, 4, 0, 1, 6);
     ga->setColumnStretch(5, 1);
@@ -208,22 +122,22 @@ QWidget* MainWindow::montaEntradas()
     int linha = 0;
     for (const auto& l : linhas) {
         const QString nome = QString::fromUtf8(l.rotulo);
-        auto* e = caixa(*l.caixa, QString::fromUtf8(l.nomeCaixa), l.regra, 72, nome);
+        auto* e = formulario_->caixa(*l.caixa, QString::fromUtf8(l.nomeCaixa), l.regra, 72, nome);
         ge->addWidget(rotulo(nome, e), linha, 0);
         ge->addWidget(e, linha, 1);
-        ge->addWidget(lista(*l.lista, QString::fromUtf8(l.nomeLista), QStringLiteral("Unidade de ") + nome), linha,
+        ge->addWidget(formulario_->lista(*l.lista, QString::fromUtf8(l.nomeLista), QStringLiteral("Unidade de ") + nome), linha,
                       2);
         ++linha;
     }
-    auto* t21 = caixa(f.Text21, QStringLiteral("Text21"), Teclas::Decimal, 72, QStringLiteral("γc"));
-    auto* t22 = caixa(f.Text22, QStringLiteral("Text22"), Teclas::Decimal, 72, QStringLiteral("γs"));
+    auto* t21 = formulario_->caixa(f.Text21, QStringLiteral("Text21"), Teclas::Decimal, 72, QStringLiteral("γc"));
+    auto* t22 = formulario_->caixa(f.Text22, QStringLiteral("Text22"), Teclas::Decimal, 72, QStringLiteral("γs"));
     ge->addWidget(rotulo(QStringLiteral("γc"), t21), linha, 0);
     ge->addWidget(t21, linha, 1);
     ge->addWidget(rotulo(QStringLiteral("coef. do concreto")), linha++, 2);
     ge->addWidget(rotulo(QStringLiteral("γs"), t22), linha, 0);
     ge->addWidget(t22, linha, 1);
     ge->addWidget(rotulo(QStringLiteral("coef. do aço")), linha++, 2);
-    auto* c1 = lista(f.Combo1, QStringLiteral("Combo1"), QStringLiteral("Aço"));
+    auto* c1 = formulario_->lista(f.Combo1, QStringLiteral("Combo1"), QStringLiteral("Aço"));
     ge->addWidget(rotulo(QStringLiteral("Aço"), c1), linha, 0);
     ge->addWidget(c1, linha, 1, 1, 2);
     ge->setColumnStretch(2, 1);
@@ -243,12 +157,12 @@ QWidget* MainWindow::montaOpcoes()
 
     auto* cob = quadro("Cobrimento", "Frame4");
     auto* gc = new QVBoxLayout(cob);
-    auto* o1 = opcao(f.Option1, QStringLiteral("Option1"));
-    auto* o2 = opcao(f.Option2, QStringLiteral("Option2"));
-    grupos_.push_back({o1, o2});
+    auto* o1 = formulario_->opcao(f.Option1, QStringLiteral("Option1"));
+    auto* o2 = formulario_->opcao(f.Option2, QStringLiteral("Option2"));
+    formulario_->agrupa({o1, o2});
     gc->addWidget(o1);
     gc->addWidget(o2);
-    auto* c2 = lista(f.Combo2, QStringLiteral("Combo2"), QStringLiteral("Classe de agressividade ambiental"));
+    auto* c2 = formulario_->lista(f.Combo2, QStringLiteral("Combo2"), QStringLiteral("Classe de agressividade ambiental"));
     c2->setFixedWidth(64);
     auto* classe = rotulo(QStringLiteral("Classe de agressividade ambiental"), c2);
     classe->setWordWrap(true);
@@ -256,7 +170,7 @@ QWidget* MainWindow::montaOpcoes()
     linhaClasse->addWidget(classe, 1);
     linhaClasse->addWidget(c2);
     gc->addLayout(linhaClasse);
-    gc->addWidget(marca(f.Check1, QStringLiteral("Check1"), QStringLiteral("Corrigir o cobrimento sem perguntar")));
+    gc->addWidget(formulario_->marca(f.Check1, QStringLiteral("Check1"), QStringLiteral("Corrigir o cobrimento sem perguntar")));
     v->addWidget(cob);
 
     // "Bitola (mm)": the eight catalogue bars, the one of the result highlighted;
@@ -266,7 +180,7 @@ QWidget* MainWindow::montaOpcoes()
     gb->setHorizontalSpacing(4);
     for (int i = 0; i < 8; ++i) {
         const auto k = static_cast<std::size_t>(i);
-        auto* e = caixa(f.Text7[k], QStringLiteral("Text7(%1)").arg(i), Teclas::Bitola, 48,
+        auto* e = formulario_->caixa(f.Text7[k], QStringLiteral("Text7(%1)").arg(i), Teclas::Bitola, 48,
                         QStringLiteral("Bitola %1 mm").arg(qs(f.Text7[k].Text)));
         e->setAlignment(Qt::AlignCenter);
         e->setFocusPolicy(Qt::ClickFocus);
@@ -275,17 +189,17 @@ QWidget* MainWindow::montaOpcoes()
         bitolas_[k] = e;
         gb->addWidget(e, i / 4, i % 4);
     }
-    gb->addWidget(marca(f.Check2, QStringLiteral("Check2"), qs(f.Check2.Caption)), 2, 0, 1, 4);
+    gb->addWidget(formulario_->marca(f.Check2, QStringLiteral("Check2"), qs(f.Check2.Caption)), 2, 0, 1, 4);
     v->addWidget(bit);
 
     auto* est = quadro("Estribos", "Frame6");
     auto* ge = new QGridLayout(est);
-    auto* o3 = opcao(f.Option3, QStringLiteral("Option3"));
-    auto* o5 = opcao(f.Option5, QStringLiteral("Option5"));
-    auto* o6 = opcao(f.Option6, QStringLiteral("Option6"));
-    grupos_.push_back({o3, o5, o6});
+    auto* o3 = formulario_->opcao(f.Option3, QStringLiteral("Option3"));
+    auto* o5 = formulario_->opcao(f.Option5, QStringLiteral("Option5"));
+    auto* o6 = formulario_->opcao(f.Option6, QStringLiteral("Option6"));
+    formulario_->agrupa({o3, o5, o6});
     ge->addWidget(o3, 0, 0);
-    ge->addWidget(lista(f.Combo3, QStringLiteral("Combo3"), QStringLiteral("Estribo pré-definido")), 0, 1);
+    ge->addWidget(formulario_->lista(f.Combo3, QStringLiteral("Combo3"), QStringLiteral("Estribo pré-definido")), 0, 1);
     ge->addWidget(o5, 1, 0, 1, 2);
     ge->addWidget(o6, 2, 0, 1, 2);
     {
@@ -293,8 +207,8 @@ QWidget* MainWindow::montaOpcoes()
         auto* digitado = new QWidget;
         auto* hd = new QHBoxLayout(digitado);
         hd->setContentsMargins(24, 0, 0, 0);
-        estriboDiametro_ = lista(f.EstriboDiametro, QStringLiteral("EstriboDiametro"), QStringLiteral("Diâmetro do estribo"));
-        estriboEspacamento_ = caixa(f.EstriboEspacamento, QStringLiteral("EstriboEspacamento"), Teclas::Decimal, 48,
+        estriboDiametro_ = formulario_->lista(f.EstriboDiametro, QStringLiteral("EstriboDiametro"), QStringLiteral("Diâmetro do estribo"));
+        estriboEspacamento_ = formulario_->caixa(f.EstriboEspacamento, QStringLiteral("EstriboEspacamento"), Teclas::Decimal, 48,
                                     QStringLiteral("Espaçamento do estribo (cm)"));
         hd->addWidget(new QLabel(QStringLiteral("φ")));
         hd->addWidget(estriboDiametro_, 1);
@@ -308,15 +222,15 @@ QWidget* MainWindow::montaOpcoes()
             estriboEspacamento_->setEnabled(marcado);
         });
     }
-    ge->addWidget(marca(f.Check5, QStringLiteral("Check5"), qs(f.Check5.Caption)), 4, 0, 1, 2);
+    ge->addWidget(formulario_->marca(f.Check5, QStringLiteral("Check5"), qs(f.Check5.Caption)), 4, 0, 1, 2);
     ge->setColumnStretch(1, 1);
     v->addWidget(est);
 
     auto* gan = quadro("Ganchos", "Frame7");
     auto* gg = new QVBoxLayout(gan);
-    auto* o90 = opcao(f.Option7[1], QStringLiteral("Option7(1)"));
-    auto* o45 = opcao(f.Option7[0], QStringLiteral("Option7(0)"));
-    grupos_.push_back({o90, o45});
+    auto* o90 = formulario_->opcao(f.Option7[1], QStringLiteral("Option7(1)"));
+    auto* o45 = formulario_->opcao(f.Option7[0], QStringLiteral("Option7(0)"));
+    formulario_->agrupa({o90, o45});
     gg->addWidget(o90);
     gg->addWidget(o45);
     v->addWidget(gan);
