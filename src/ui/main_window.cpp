@@ -8,6 +8,7 @@
 #include "ui/input_tips.h"
 #include "ui/project_data_dialog.h"
 #include "ui/qt_dialogs.h"
+#include "ui/recent_projects.h"
 #include "ui/section_canvas.h"
 #include "ui/wheel_guard.h"
 #include "window/window_input.h"
@@ -167,8 +168,8 @@ void MainWindow::montaMenus()
     auto* abrir = acao(QStringLiteral("&Abrir arquivo..."), QStringLiteral("mnuItemload"), [this] { abre(); });
     abrir->setShortcut(QKeySequence::Open);
     arquivo->addAction(abrir);
-    menuRecentes_ = arquivo->addMenu(QStringLiteral("Arquivos recen&tes"));
-    menuRecentes_->setObjectName(QStringLiteral("mnuRecentes"));
+    auto* menuRecentes = arquivo->addMenu(QStringLiteral("Arquivos recen&tes"));
+    menuRecentes->setObjectName(QStringLiteral("mnuRecentes"));
     arquivo->addAction(acao(QStringLiteral("Carre&gar valores padrões"), QStringLiteral("mnuItemCarregpadr"),
                             [this] { valoresPadrao(); }));
     auto* salvar = acao(QStringLiteral("Sa&lvar"), QStringLiteral("mnuItemSalvar"), [this] { salva(); });
@@ -194,7 +195,10 @@ void MainWindow::montaMenus()
     arquivo->addAction(imprimir);
     arquivo->addSeparator();
     arquivo->addAction(acao(QStringLiteral("Sai&r"), QStringLiteral("mnuItemSair"), [this] { close(); }));
-    montaRecentes();
+    recentes_ = new RecentProjects(menuRecentes, [this](const QString& caminho) {
+        if (podeDescartar(QStringLiteral("abrir outro")))
+            abreArquivo(caminho);
+    }, this);
 
     auto* editar = menuBar()->addMenu(QStringLiteral("&Editar"));
     editar->setObjectName(QStringLiteral("mnuEditar"));

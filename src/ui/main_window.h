@@ -43,6 +43,7 @@ class QUndoStack;
 namespace pilarix::ui {
 
 class FormBinding;
+class RecentProjects;
 class QtDialogs;
 class SectionCanvas;
 class OtherValuesDialog;
@@ -170,8 +171,6 @@ private:
     // Before input not saved is replaced: true when it may go (saved or discarded).
     bool podeDescartar(const QString& acao);
     void guardouOuAbriu(const QString& nome);
-    void lembraRecente(const QString& nome);
-    void montaRecentes();
     void dispoeColunas();
 
     std::unique_ptr<QtDialogs> dialogosProprios_;
@@ -209,7 +208,7 @@ private:
     QLabel* posicaoNaLista_ = nullptr;
     QWidget* veredito_ = nullptr; // "Verificação" and "Erros", never scrolled away
     QLabel* avisoDesatualizado_ = nullptr;
-    QMenu* menuRecentes_ = nullptr;
+    RecentProjects* recentes_ = nullptr;
     QUndoStack* pilhaDesfazer_ = nullptr;
 
     bool ocupado_ = false;  // a handler of the program is running

@@ -2,14 +2,12 @@
 // the "Arquivo" menu, the question before unsaved input is lost, and the title.
 
 #include "ui/main_window.h"
+#include "ui/recent_projects.h"
 #include "ui/window_parts.h"
 
 #include "window/window_input.h"
 
-#include <QAction>
 #include <QFileInfo>
-#include <QMenu>
-#include <QSettings>
 #include <QUndoStack>
 
 namespace pilarix::ui {
@@ -47,7 +45,7 @@ void MainWindow::guardouOuAbriu(const QString& nome)
 {
     arquivoAtual_ = nome;
     fotoSalva_ = fotoDaEntrada(*program_, Alcance::Projeto);
-    lembraRecente(nome);
+    recentes_->lembra(nome);
     atualizaTitulo();
 }
 
@@ -97,11 +95,7 @@ void MainWindow::abreArquivo(const QString& nome)
         guardouOuAbriu(nome);
     } else if (!nome.isEmpty()) {
         // A recent file that can no longer be read leaves the list.
-        QSettings s(QString::fromUtf8(kOrganizacao), QString::fromUtf8(kAplicacao));
-        QStringList lista = s.value(QString::fromUtf8(kChaveRecentes)).toStringList();
-        lista.removeAll(QFileInfo(nome).absoluteFilePath());
-        s.setValue(QString::fromUtf8(kChaveRecentes), lista);
-        montaRecentes();
+        recentes_->esquece(nome);
     }
     calcula();
 }
@@ -141,49 +135,6 @@ bool MainWindow::salvaComo()
     return gravou;
 }
 
-QStringList MainWindow::arquivosRecentes() const
-{
-    QSettings s(QString::fromUtf8(kOrganizacao), QString::fromUtf8(kAplicacao));
-    return s.value(QString::fromUtf8(kChaveRecentes)).toStringList();
-}
-
-void MainWindow::lembraRecente(const QString& nome)
-{
-    QSettings s(QString::fromUtf8(kOrganizacao), QString::fromUtf8(kAplicacao));
-    QStringList lista = s.value(QString::fromUtf8(kChaveRecentes)).toStringList();
-    const QString caminho = QFileInfo(nome).absoluteFilePath();
-    lista.removeAll(caminho);
-    lista.prepend(caminho);
-    while (lista.size() > kMaximoRecentes)
-        lista.removeLast();
-    s.setValue(QString::fromUtf8(kChaveRecentes), lista);
-    montaRecentes();
-}
-
-void MainWindow::montaRecentes()
-{
-    menuRecentes_->clear();
-    const QStringList lista = arquivosRecentes();
-    int n = 0;
-    for (const QString& caminho : lista) {
-        auto* a = menuRecentes_->addAction(QStringLiteral("&%1 %2").arg(++n).arg(QFileInfo(caminho).fileName()));
-        a->setToolTip(caminho);
-        a->setStatusTip(caminho);
-        connect(a, &QAction::triggered, this, [this, caminho] {
-            if (podeDescartar(QStringLiteral("abrir outro")))
-                abreArquivo(caminho);
-        });
-    }
-    if (lista.isEmpty()) {
-        menuRecentes_->addAction(QStringLiteral("(nenhum)"))->setEnabled(false);
-        return;
-    }
-    menuRecentes_->addSeparator();
-    menuRecentes_->addAction(QStringLiteral("&Limpar a lista"), this, [this] {
-        QSettings s(QString::fromUtf8(kOrganizacao), QString::fromUtf8(kAplicacao));
-        s.remove(QString::fromUtf8(kChaveRecentes));
-        montaRecentes();
-    });
-}
+QStringList MainWindow::arquivosRecentes() const { return recentes_->lista(); }
 
 } // namespace pilarix::ui
