@@ -3,6 +3,7 @@
 
 #include "engine/catalogue.h"
 #include "ui/box_check.h"
+#include "ui/edit_history.h"
 #include "ui/form_binding.h"
 #include "ui/input_edit.h"
 #include "ui/input_tips.h"
@@ -53,7 +54,7 @@ MainWindow::MainWindow(DialogPort* dialogs, QWidget* parent) : QMainWindow(paren
                                    [this](const QString& motivo) { mostraNaBarra(motivo); }},
                                   this);
 
-    pilhaDesfazer_ = new QUndoStack(this);
+    historia_ = new EditHistory(*program_, *formulario_, this, [this] { desfeito(); });
 
     setObjectName(QStringLiteral("Form1"));
     montaMenus();
@@ -131,7 +132,7 @@ MainWindow::MainWindow(DialogPort* dialogs, QWidget* parent) : QMainWindow(paren
     atualiza();
     copiaParaModelo();
     mostraMensagens();
-    valoresAtuais_ = valoresDaEntrada(*program_, Alcance::Projeto);
+    historia_->lembraEntrada();
     fotoSalva_ = fotoDaEntrada(*program_, Alcance::Projeto);
     dispoeColunas();
     atualizaTitulo();
@@ -185,7 +186,7 @@ void MainWindow::montaMenus()
         acao(QStringLiteral("&Exportar desenho..."), QStringLiteral("mnuItemExportar"), [this] { exportaDesenho(); }));
     arquivo->addAction(acao(QStringLiteral("Dados da o&bra..."), QStringLiteral("mnuItemDadosDaObra"), [this] {
         if (editProjectData(program_->Obra, this)) { // an edit of the project, undone as any other
-            registraEdicao(QStringLiteral("dados da obra"), false);
+            historia_->registra(QStringLiteral("dados da obra"), false);
             atualizaTitulo();
         }
     }));
@@ -202,10 +203,10 @@ void MainWindow::montaMenus()
 
     auto* editar = menuBar()->addMenu(QStringLiteral("&Editar"));
     editar->setObjectName(QStringLiteral("mnuEditar"));
-    auto* desfazer = pilhaDesfazer_->createUndoAction(this, QStringLiteral("&Desfazer"));
+    auto* desfazer = historia_->pilha()->createUndoAction(this, QStringLiteral("&Desfazer"));
     desfazer->setObjectName(QStringLiteral("mnuItemDesfazer"));
     desfazer->setShortcut(QKeySequence::Undo);
-    auto* refazer = pilhaDesfazer_->createRedoAction(this, QStringLiteral("&Refazer"));
+    auto* refazer = historia_->pilha()->createRedoAction(this, QStringLiteral("&Refazer"));
     refazer->setObjectName(QStringLiteral("mnuItemRefazer"));
     refazer->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
     editar->addAction(desfazer);
@@ -342,9 +343,9 @@ void MainWindow::executa(const std::function<void()>& handler, Edicao edicao, co
     }
     atualiza();
     if (edicao == Edicao::Usuario)
-        registraEdicao(descricao, false);
+        historia_->registra(descricao, false);
     else
-        valoresAtuais_ = valoresDaEntrada(p, Alcance::Projeto);
+        historia_->lembraEntrada();
     reavalia();
 }
 
@@ -356,7 +357,7 @@ void MainWindow::inicia()
     });
     // The defaults just loaded are where the user starts: nothing to save, nothing to undo.
     fotoSalva_ = fotoDaEntrada(*program_, Alcance::Projeto);
-    pilhaDesfazer_->clear();
+    historia_->pilha()->clear();
     mostraMensagens();
     atualizaTitulo();
 }

@@ -42,6 +42,7 @@ class QUndoStack;
 
 namespace pilarix::ui {
 
+class EditHistory;
 class FormBinding;
 class RecentProjects;
 class QtDialogs;
@@ -85,7 +86,7 @@ public:
 
     SectionCanvas* desenho() const { return desenho_; }
     QTextBrowser* mensagens() const { return mensagens_; }
-    QUndoStack* pilhaDesfazer() const { return pilhaDesfazer_; }
+    QUndoStack* pilhaDesfazer() const;
     // The result on show was made from other input than the window now holds.
     bool desatualizado() const { return desatualizado_; }
     // The input differs from the project as last saved or opened.
@@ -161,7 +162,6 @@ private:
     // An input widget changed: the edit is kept for undo, and the result, the list
     // and the title are brought up to date with it.
     void entradaEditada(bool digitacao);
-    void registraEdicao(const QString& descricao, bool digitacao);
     void reavalia();
     void atualizaTitulo();
     void mostraMensagens();
@@ -209,7 +209,7 @@ private:
     QWidget* veredito_ = nullptr; // "Verificação" and "Erros", never scrolled away
     QLabel* avisoDesatualizado_ = nullptr;
     RecentProjects* recentes_ = nullptr;
-    QUndoStack* pilhaDesfazer_ = nullptr;
+    EditHistory* historia_ = nullptr;
 
     bool ocupado_ = false;  // a handler of the program is running
     bool pintando_ = false; // the widgets are being set from the model
@@ -219,7 +219,6 @@ private:
     std::string fotoResultado_; // the input the result on show was calculated from
     std::string fotoBusca_;     // the input the list of the search was found for
     std::string fotoSalva_;     // the input as the project was last saved or opened
-    std::vector<std::pair<std::string, std::string>> valoresAtuais_; // for undo: the input before the next edit
     QString arquivoAtual_;
 };
 

@@ -3,6 +3,7 @@
 // help and about.
 
 #include "ui/main_window.h"
+#include "ui/edit_history.h"
 #include "ui/window_parts.h"
 
 #include "base/number_text.h"
@@ -147,7 +148,7 @@ void MainWindow::abreCasos()
             *program_,
             [this] {
                 atualiza();
-                registraEdicao(QStringLiteral("casos de carga"), false);
+                historia_->registra(QStringLiteral("casos de carga"), false);
                 reavalia();
                 casos_->carrega(desatualizado_);
             },

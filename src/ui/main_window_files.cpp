@@ -2,6 +2,7 @@
 // the "Arquivo" menu, the question before unsaved input is lost, and the title.
 
 #include "ui/main_window.h"
+#include "ui/edit_history.h"
 #include "ui/recent_projects.h"
 #include "ui/window_parts.h"
 
@@ -63,7 +64,7 @@ void MainWindow::novo()
     });
     arquivoAtual_.clear();
     fotoSalva_ = fotoDaEntrada(*program_, Alcance::Projeto);
-    pilhaDesfazer_->clear();
+    historia_->pilha()->clear();
     mostraMensagens();
     atualizaTitulo();
 }
@@ -91,7 +92,7 @@ void MainWindow::abreArquivo(const QString& nome)
         }
     });
     if (carregou) {
-        pilhaDesfazer_->clear();
+        historia_->pilha()->clear();
         guardouOuAbriu(nome);
     } else if (!nome.isEmpty()) {
         // A recent file that can no longer be read leaves the list.

@@ -1,14 +1,13 @@
-// The main window's edits: each change of the input is kept for undo, and the result
-// on show and the list of the search are marked out of date against the input.
+// The main window's edits: each change of the input is kept for undo (edit_history.h),
+// and the result on show and the list of the search are marked out of date against it.
 
 #include "ui/main_window.h"
+#include "ui/edit_history.h"
 #include "ui/form_binding.h"
 #include "ui/window_parts.h"
 
-#include "ui/input_edit.h"
 #include "window/window_input.h"
 
-#include <QAbstractButton>
 #include <QUndoStack>
 
 namespace pilarix::ui {
@@ -22,46 +21,14 @@ void MainWindow::entradaEditada(bool digitacao)
     if (pintando_ || ocupado_)
         return;
     copiaParaModelo();
-    registraEdicao(QString(), digitacao);
+    historia_->registra(QString(), digitacao);
     reavalia();
-}
-
-void MainWindow::registraEdicao(const QString& descricao, bool digitacao)
-{
-    auto agora = valoresDaEntrada(*program_, Alcance::Projeto);
-    std::vector<EdicaoDaEntrada::Mudanca> mudancas;
-    for (std::size_t i = 0; i < agora.size() && i < valoresAtuais_.size(); ++i)
-        if (agora[i].second != valoresAtuais_[i].second)
-            mudancas.push_back({agora[i].first, valoresAtuais_[i].second, agora[i].second});
-    valoresAtuais_ = std::move(agora);
-    if (mudancas.empty())
-        return;
-    // The edit is named as the menu says it: "Desfazer Base (cm)".
-    QString texto = descricao;
-    if (texto.isEmpty() && mudancas.size() == 1) {
-        const QString nome = qs(mudancas.front().nome).section(QLatin1Char('|'), 0, 0);
-        auto* w = centralWidget()->findChild<QWidget*>(nome);
-        if (const QString* rotulo = w ? formulario_->rotuloDe(w) : nullptr)
-            texto = *rotulo;
-        else if (auto* b = qobject_cast<QAbstractButton*>(w); b && !b->text().isEmpty())
-            texto = b->text().remove(QLatin1Char('&')).simplified();
-        else
-            texto = nome;
-    }
-    if (texto.isEmpty())
-        texto = QStringLiteral("edição");
-    pilhaDesfazer_->push(new EdicaoDaEntrada(std::move(mudancas), digitacao, texto,
-                                             [this](const std::vector<std::pair<std::string, std::string>>& v) {
-                                                 for (const auto& [nome, valor] : v)
-                                                     restauraEntrada(*program_, nome, valor);
-                                                 desfeito();
-                                             }));
 }
 
 void MainWindow::desfeito()
 {
     atualiza();
-    valoresAtuais_ = valoresDaEntrada(*program_, Alcance::Projeto);
+    historia_->lembraEntrada();
     reavalia();
 }
 
@@ -86,6 +53,8 @@ void MainWindow::reavalia()
     }
     atualizaTitulo();
 }
+
+QUndoStack* MainWindow::pilhaDesfazer() const { return historia_->pilha(); }
 
 bool MainWindow::modificado() const { return fotoDaEntrada(*program_, Alcance::Projeto) != fotoSalva_; }
 
