@@ -5,6 +5,7 @@
 #include "ui/box_check.h"
 #include "ui/edit_history.h"
 #include "ui/form_binding.h"
+#include "ui/input_columns.h"
 #include "ui/input_edit.h"
 #include "ui/input_tips.h"
 #include "ui/project_data_dialog.h"
@@ -14,8 +15,8 @@
 #include "ui/wheel_guard.h"
 #include "window/window_input.h"
 
+#include <QAbstractButton>
 #include <QAction>
-#include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -23,8 +24,6 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMouseEvent>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -61,20 +60,9 @@ MainWindow::MainWindow(DialogPort* dialogs, QWidget* parent) : QMainWindow(paren
 
     // The frames of input scroll when the screen is short, and stand in one column
     // when it is narrow; the drawing and the results take the room that is left.
-    auto* entradas = new QWidget;
-    colunasDeEntrada_ = new QBoxLayout(QBoxLayout::LeftToRight, entradas);
-    colunasDeEntrada_->setContentsMargins(0, 0, 0, 0);
-    colunasDeEntrada_->setSpacing(8);
-    colunaEntradas_ = montaEntradas();
-    colunaOpcoes_ = montaOpcoes();
-    colunasDeEntrada_->addWidget(colunaEntradas_, 0, Qt::AlignTop);
-    colunasDeEntrada_->addWidget(colunaOpcoes_, 0, Qt::AlignTop);
-    rolagemEntradas_ = new QScrollArea;
-    rolagemEntradas_->setObjectName(QStringLiteral("rolagemEntradas"));
-    rolagemEntradas_->setWidget(entradas);
-    rolagemEntradas_->setWidgetResizable(true);
-    rolagemEntradas_->setFrameShape(QFrame::NoFrame);
-    rolagemEntradas_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    QWidget* colunaEntradas = montaEntradas();
+    QWidget* colunaOpcoes = montaOpcoes(); // after the input column: it places the rule set's frame
+    colunas_ = std::make_unique<InputColumns>(colunaEntradas, colunaOpcoes);
 
     auto* centroDesenho = new QSplitter(Qt::Vertical);
     centroDesenho->setObjectName(QStringLiteral("divisaoDesenho"));
@@ -98,7 +86,7 @@ MainWindow::MainWindow(DialogPort* dialogs, QWidget* parent) : QMainWindow(paren
     auto* centro = new QWidget;
     auto* colunas = new QHBoxLayout;
     colunas->setSpacing(8);
-    colunas->addWidget(rolagemEntradas_);
+    colunas->addWidget(colunas_->rolagem());
     colunas->addWidget(centroDesenho, 3);
     auto* direita = new QVBoxLayout;
     direita->setSpacing(4);
@@ -488,6 +476,16 @@ void MainWindow::closeEvent(QCloseEvent* event)
     QSettings s(QString::fromUtf8(kOrganizacao), QString::fromUtf8(kAplicacao));
     s.setValue(QString::fromUtf8(kChaveGeometria), saveGeometry());
     event->accept();
+}
+
+// ---- the layout by width ----
+
+void MainWindow::dispoeColunas() { colunas_->dispoe(width() - rolagemResultados_->minimumWidth()); }
+
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    dispoeColunas();
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)

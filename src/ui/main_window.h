@@ -44,6 +44,7 @@ namespace pilarix::ui {
 
 class EditHistory;
 class FormBinding;
+class InputColumns;
 class RecentProjects;
 class QtDialogs;
 class SectionCanvas;
@@ -180,10 +181,7 @@ private:
     FormBinding* formulario_ = nullptr; // the widgets bound to the form model, both ways
     std::array<QLineEdit*, 8> bitolas_{};
 
-    QWidget* colunaEntradas_ = nullptr;
-    QWidget* colunaOpcoes_ = nullptr;
-    QBoxLayout* colunasDeEntrada_ = nullptr;
-    QScrollArea* rolagemEntradas_ = nullptr;
+    std::unique_ptr<InputColumns> colunas_;
     QScrollArea* rolagemResultados_ = nullptr;
 
     SectionCanvas* desenho_ = nullptr;
