@@ -13,6 +13,7 @@
 #include "ui/recent_projects.h"
 #include "ui/section_canvas.h"
 #include "ui/wheel_guard.h"
+#include "ui/window_dialogs.h"
 #include "window/window_input.h"
 
 #include <QAbstractButton>
@@ -47,6 +48,7 @@ MainWindow::MainWindow(DialogPort* dialogs, QWidget* parent) : QMainWindow(paren
     }
     dialogos_ = dialogs;
     program_ = std::make_unique<Program>(*dialogos_);
+    formularios_ = std::make_unique<WindowDialogs>(*this);
 
     formulario_ = new FormBinding({[this](bool digitacao) { entradaEditada(digitacao); }, [this] { calcula(); },
                                    [this](QWidget* w, const QString& motivo) { recusouTecla(w, motivo); },
@@ -498,5 +500,17 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
             }
     return QMainWindow::eventFilter(watched, event);
 }
+
+// ---- the other forms (window_dialogs.h) ----
+
+void MainWindow::abreOutrosValores() { formularios_->abreOutrosValores(); }
+void MainWindow::abreEstimativaDLinha() { formularios_->abreEstimativaDLinha(); }
+void MainWindow::abreSolucoes() { formularios_->abreSolucoes(); }
+void MainWindow::abreSobre() { formularios_->abreSobre(); }
+void MainWindow::abreAjuda() { formularios_->abreAjuda(); }
+void MainWindow::exportaDesenho() { formularios_->exportaDesenho(); }
+void MainWindow::abreDiagrama() { formularios_->abreDiagrama(); }
+void MainWindow::abreCasos() { formularios_->abreCasos(); }
+void MainWindow::imprimeMemorial() { formularios_->imprimeMemorial(); }
 
 } // namespace pilarix::ui

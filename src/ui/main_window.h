@@ -54,6 +54,7 @@ class SolutionsDialog;
 class InteractionDialog;
 class CasesDialog;
 class HelpDialog;
+class WindowDialogs;
 class Norma2014Panel;
 class Norma2014Results;
 class MomentContourDialog;
@@ -174,6 +175,8 @@ private:
     void guardouOuAbriu(const QString& nome);
     void dispoeColunas();
 
+    friend class WindowDialogs; // the other forms work on the window as its own handlers do
+    std::unique_ptr<WindowDialogs> formularios_;
     std::unique_ptr<QtDialogs> dialogosProprios_;
     DialogPort* dialogos_;
     std::unique_ptr<Program> program_;
@@ -187,16 +190,9 @@ private:
     SectionCanvas* desenho_ = nullptr;
     unsigned versaoDoDesenho_ = 0; // the drawing the canvas shows, so that a refresh keeps its zoom
     QTextBrowser* mensagens_ = nullptr;
-    QPointer<OtherValuesDialog> outros_;
-    QPointer<DEstimateDialog> estimativa_;
-    QPointer<SolutionsDialog> solucoes_;
-    QPointer<InteractionDialog> diagrama_;
-    QPointer<CasesDialog> casos_;
     Norma2014Panel* norma2014_ = nullptr;
     Norma2014Results* esbeltez_ = nullptr;
     QPointer<MomentContourDialog> diagramaMxMy_;
-    std::string nomeProposto() const;
-    QPointer<HelpDialog> ajuda_;
     QLineEdit* utilizacao_ = nullptr;
     // The stirrup typed with "Definir manualmente", in use only with that option.
     QComboBox* estriboDiametro_ = nullptr;

@@ -3,10 +3,10 @@
 // calculation said (its messages, "Verificação" and the windows that follow it).
 
 #include "ui/main_window.h"
+#include "ui/window_dialogs.h"
 #include "ui/form_binding.h"
 #include "ui/window_parts.h"
 
-#include "ui/cases_dialog.h"
 #include "ui/interaction_dialog.h"
 #include "ui/section_canvas.h"
 #include "ui/verdict_text.h"
@@ -306,16 +306,7 @@ void MainWindow::mostraVerificacao()
     casoDeterminante_->setText(caso);
     casoDeterminante_->setVisible(!caso.isEmpty());
     casoDeterminante_->setStyleSheet(desatualizado_ ? QStringLiteral("color: rgb(140, 140, 140);") : QString());
-    if (casos_ && casos_->isVisible())
-        casos_->carrega(desatualizado_);
-    if (diagrama_ && diagrama_->isVisible()) {
-        if (v)
-            diagrama_->mostra(dadosDoDiagrama(p));
-        else
-            diagrama_->limpa();
-        diagrama_->setWindowTitle(desatualizado_ ? QStringLiteral("Diagrama de interação (desatualizado)")
-                                                 : QStringLiteral("Diagrama de interação"));
-    }
+    formularios_->acompanha();
     mostra2014();
 }
 

@@ -2,8 +2,11 @@
 // solutions, the load cases, the interaction diagram, the drawing file, the report,
 // help and about.
 
-#include "ui/main_window.h"
+#include "ui/window_dialogs.h"
+
 #include "ui/edit_history.h"
+#include "ui/main_window.h"
+#include "ui/verdict_text.h"
 #include "ui/window_parts.h"
 
 #include "base/number_text.h"
@@ -24,35 +27,37 @@ namespace pilarix::ui {
 
 using namespace window_parts;
 
-// ---- the other forms ----
+WindowDialogs::WindowDialogs(MainWindow& janela) : janela_(janela) {}
 
-void MainWindow::abreOutrosValores()
+WindowDialogs::~WindowDialogs() = default;
+
+void WindowDialogs::abreOutrosValores()
 {
     if (!outros_)
         outros_ = new OtherValuesDialog(
-            program_->Form8,
-            [this] { executa([this] { program_->Form8Command1_Click(); }, Edicao::Usuario, QStringLiteral("outros valores")); },
+            janela_.program_->Form8,
+            [this] { janela_.executa([this] { janela_.program_->Form8Command1_Click(); }, MainWindow::Edicao::Usuario, QStringLiteral("outros valores")); },
             [this](const std::string& mensagem) {
-                auto& form = program_->Form2;
+                auto& form = janela_.program_->Form2;
                 form.Label1.Caption = mensagem;
                 form.Label2.Caption.clear();
-                dialogos_->showError(form);
+                janela_.dialogos_->showError(form);
             },
-            this);
+            &janela_);
     outros_->carrega();
     outros_->exec();
 }
 
-void MainWindow::abreEstimativaDLinha()
+void WindowDialogs::abreEstimativaDLinha()
 {
     if (!estimativa_)
         estimativa_ = new DEstimateDialog(
-            program_->Form5, [this] { executa([this] { program_->Form5Calcula(); }); },
-            [this] { executa([this] { program_->Form5Aceita(); }, Edicao::Usuario, QStringLiteral("estimativa de d'")); },
-            this);
+            janela_.program_->Form5, [this] { janela_.executa([this] { janela_.program_->Form5Calcula(); }); },
+            [this] { janela_.executa([this] { janela_.program_->Form5Aceita(); }, MainWindow::Edicao::Usuario, QStringLiteral("estimativa de d'")); },
+            &janela_);
     // It starts from the bar, the stirrup and the cover of the last calculation.
-    if (const auto& r = program_->Resultado; r && r->detailed && r->bar) {
-        auto& f5 = program_->Form5;
+    if (const auto& r = janela_.program_->Resultado; r && r->detailed && r->bar) {
+        auto& f5 = janela_.program_->Form5;
         for (int i = 1; i <= engine::kBarCount; ++i) {
             const auto& b = engine::bar(i);
             if (i <= engine::kLastStirrupBar && std::abs(b.diameter - r->stirrup.diameter) < 1e-9)
@@ -61,57 +66,57 @@ void MainWindow::abreEstimativaDLinha()
                 f5.Combo2.Text = std::string(b.labelComma);
         }
         f5.Text1.Text = Str(r->cover.effective * 10);
-        program_->Form5Calcula();
+        janela_.program_->Form5Calcula();
     }
     estimativa_->carrega();
     estimativa_->exec();
 }
 
-void MainWindow::abreSolucoes()
+void WindowDialogs::abreSolucoes()
 {
     if (!solucoes_)
         solucoes_ = new SolutionsDialog(
-            program_->Form11, [this] { executa([this] { program_->Form11Escolhe(); }); }, this);
-    solucoes_->poeDetalhes(detalhaSolucoes(*program_));
+            janela_.program_->Form11, [this] { janela_.executa([this] { janela_.program_->Form11Escolhe(); }); }, &janela_);
+    solucoes_->poeDetalhes(detalhaSolucoes(*janela_.program_));
     solucoes_->exec();
 }
 
-void MainWindow::exportaDesenho()
+void WindowDialogs::exportaDesenho()
 {
-    auto& p = *program_;
+    auto& p = *janela_.program_;
     if (!p.Desenho) {
-        dialogos_->notice("Calcule a seção antes de exportar o desenho: não há seção detalhada para desenhar.");
+        janela_.dialogos_->notice("Calcule a seção antes de exportar o desenho: não há seção detalhada para desenhar.");
         return;
     }
-    copiaParaModelo();
+    janela_.copiaParaModelo();
     if (const auto problema = conferenciaDaEscala(p.Form1.Text6.Text)) {
-        dialogos_->notice(*problema);
+        janela_.dialogos_->notice(*problema);
         return;
     }
     // The project's name, with the drawing's extension in place of its own.
-    const std::string nome = dialogos_->askDrawingFileName(nomeProposto() + ".dxf");
+    const std::string nome = janela_.dialogos_->askDrawingFileName(nomeProposto() + ".dxf");
     if (nome.empty())
         return;
     // A design that does not hold says so in the file itself.
     std::string motivo;
     if (p.Form1.Text30.Text != "Ok")
         motivo = "o cálculo deu erro";
-    else if (desatualizado_)
+    else if (janela_.desatualizado_)
         motivo = "a entrada mudou depois do cálculo";
     const engine::SectionGeometry desenho =
         motivo.empty() ? *p.Desenho : render::stampedUnverified(*p.Desenho, motivo);
     std::string erro;
     if (render::exportDrawing(desenho, nome, Val(p.Form1.Text6.Text), erro))
-        mostraNaBarra(QStringLiteral("Desenho %1gravado em %2")
+        janela_.mostraNaBarra(QStringLiteral("Desenho %1gravado em %2")
                           .arg(motivo.empty() ? QString() : QStringLiteral("(NÃO VERIFICADO) "), qs(nome)));
     else
-        dialogos_->notice(erro);
+        janela_.dialogos_->notice(erro);
 }
 
 // The project's name without its extension, to propose for a drawing or a report.
-std::string MainWindow::nomeProposto() const
+std::string WindowDialogs::nomeProposto() const
 {
-    const auto& p = *program_;
+    const auto& p = *janela_.program_;
     std::string proposto = p.NomeArquivo.empty() || p.NomeArquivo == "Padrão.txt" ? "pilar" : p.NomeArquivo;
     if (const auto ponto = proposto.find_last_of('.');
         ponto != std::string::npos && proposto.find('/', ponto) == std::string::npos)
@@ -119,69 +124,85 @@ std::string MainWindow::nomeProposto() const
     return proposto;
 }
 
-void MainWindow::imprimeMemorial()
+void WindowDialogs::imprimeMemorial()
 {
     // A report signs the results on show: results the input no longer matches are
     // calculated again first, and input that cannot be calculated reports nothing.
-    if (desatualizado_ || program_->Form1.Text30.Text.empty()) {
-        if (!calculaConferido([this] { program_->Command1_Click(); }))
+    if (janela_.desatualizado_ || janela_.program_->Form1.Text30.Text.empty()) {
+        if (!janela_.calculaConferido([this] { janela_.program_->Command1_Click(); }))
             return;
-        mostraNaBarra(QStringLiteral("Os resultados foram recalculados para o memorial."));
+        janela_.mostraNaBarra(QStringLiteral("Os resultados foram recalculados para o memorial."));
     }
-    const std::string nome = dialogos_->askReportFileName(nomeProposto() + ".pdf");
+    const std::string nome = janela_.dialogos_->askReportFileName(nomeProposto() + ".pdf");
     if (nome.empty())
         return;
     std::string erro;
-    if (render::writeReport(*program_, nome, render::currentStamp(), erro))
-        mostraNaBarra(QStringLiteral("Memorial de cálculo gravado em ") + qs(nome));
+    if (render::writeReport(*janela_.program_, nome, render::currentStamp(), erro))
+        janela_.mostraNaBarra(QStringLiteral("Memorial de cálculo gravado em ") + qs(nome));
     else
-        dialogos_->notice(erro);
+        janela_.dialogos_->notice(erro);
 }
 
-void MainWindow::abreCasos()
+void WindowDialogs::abreCasos()
 {
     // The cases table edits Nd and Md of the main window too: it starts from what
     // the boxes hold, and every change is an edit of the input like a typed one.
-    copiaParaModelo();
+    janela_.copiaParaModelo();
     if (!casos_)
         casos_ = new CasesDialog(
-            *program_,
+            *janela_.program_,
             [this] {
-                atualiza();
-                historia_->registra(QStringLiteral("casos de carga"), false);
-                reavalia();
-                casos_->carrega(desatualizado_);
+                janela_.atualiza();
+                janela_.historia_->registra(QStringLiteral("casos de carga"), false);
+                janela_.reavalia();
+                casos_->carrega(janela_.desatualizado_);
             },
-            this);
-    casos_->carrega(desatualizado_);
+            &janela_);
+    casos_->carrega(janela_.desatualizado_);
     casos_->show();
     casos_->raise();
     casos_->activateWindow();
 }
 
-void MainWindow::abreDiagrama()
+void WindowDialogs::abreDiagrama()
 {
     if (!diagrama_)
-        diagrama_ = new InteractionDialog(this);
+        diagrama_ = new InteractionDialog(&janela_);
     diagrama_->show();
-    mostraVerificacao();
+    janela_.mostraVerificacao();
     diagrama_->raise();
     diagrama_->activateWindow();
 }
 
-void MainWindow::abreSobre()
+void WindowDialogs::abreSobre()
 {
-    AboutDialog sobre(this);
+    AboutDialog sobre(&janela_);
     sobre.exec();
 }
 
-void MainWindow::abreAjuda()
+void WindowDialogs::abreAjuda()
 {
     if (!ajuda_)
-        ajuda_ = new HelpDialog(this);
+        ajuda_ = new HelpDialog(&janela_);
     ajuda_->show();
     ajuda_->raise();
     ajuda_->activateWindow();
+}
+
+void WindowDialogs::acompanha()
+{
+    const auto& p = *janela_.program_;
+    const bool desatualizado = janela_.desatualizado_;
+    if (casos_ && casos_->isVisible())
+        casos_->carrega(desatualizado);
+    if (diagrama_ && diagrama_->isVisible()) {
+        if (p.Verificacao)
+            diagrama_->mostra(dadosDoDiagrama(p));
+        else
+            diagrama_->limpa();
+        diagrama_->setWindowTitle(desatualizado ? QStringLiteral("Diagrama de interação (desatualizado)")
+                                                : QStringLiteral("Diagrama de interação"));
+    }
 }
 
 } // namespace pilarix::ui
