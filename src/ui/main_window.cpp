@@ -4,6 +4,7 @@
 #include "engine/catalogue.h"
 #include "ui/box_check.h"
 #include "ui/edit_history.h"
+#include "ui/file_actions.h"
 #include "ui/form_binding.h"
 #include "ui/input_columns.h"
 #include "ui/input_edit.h"
@@ -49,6 +50,7 @@ MainWindow::MainWindow(DialogPort* dialogs, QWidget* parent) : QMainWindow(paren
     dialogos_ = dialogs;
     program_ = std::make_unique<Program>(*dialogos_);
     formularios_ = std::make_unique<WindowDialogs>(*this);
+    arquivos_ = std::make_unique<FileActions>(*this);
 
     formulario_ = new FormBinding({[this](bool digitacao) { entradaEditada(digitacao); }, [this] { calcula(); },
                                    [this](QWidget* w, const QString& motivo) { recusouTecla(w, motivo); },

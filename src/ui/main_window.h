@@ -43,6 +43,7 @@ class QUndoStack;
 namespace pilarix::ui {
 
 class EditHistory;
+class FileActions;
 class FormBinding;
 class InputColumns;
 class RecentProjects;
@@ -172,10 +173,12 @@ private:
 
     // Before input not saved is replaced: true when it may go (saved or discarded).
     bool podeDescartar(const QString& acao);
-    void guardouOuAbriu(const QString& nome);
     void dispoeColunas();
 
-    friend class WindowDialogs; // the other forms work on the window as its own handlers do
+    // The file commands and the other forms work on the window as its own handlers do.
+    friend class FileActions;
+    friend class WindowDialogs;
+    std::unique_ptr<FileActions> arquivos_;
     std::unique_ptr<WindowDialogs> formularios_;
     std::unique_ptr<QtDialogs> dialogosProprios_;
     DialogPort* dialogos_;
