@@ -30,15 +30,14 @@ void FileActions::atualizaTitulo()
         janela_.setWindowTitle(titulo);
 }
 
-// ---- files ----
-
 bool FileActions::podeDescartar(const QString& acao)
 {
     janela_.copiaParaModelo();
     if (!janela_.modificado())
         return true;
-    const QString projeto =
-        janela_.arquivoAtual_.isEmpty() ? QStringLiteral("O projeto sem nome") : QStringLiteral("O projeto \"%1\"").arg(QFileInfo(janela_.arquivoAtual_).fileName());
+    const QString& arquivo = janela_.arquivoAtual_;
+    const QString projeto = arquivo.isEmpty() ? QStringLiteral("O projeto sem nome")
+                                              : QStringLiteral("O projeto \"%1\"").arg(QFileInfo(arquivo).fileName());
     const int resposta = janela_.dialogos_->askSaveChanges(
         (projeto + QStringLiteral(" tem alterações não salvas. Salvar antes de %1?").arg(acao)).toStdString());
     if (resposta == 1)

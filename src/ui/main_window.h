@@ -28,14 +28,10 @@
 
 class QAction;
 class QBoxLayout;
-class QCheckBox;
 class QComboBox;
-class QGroupBox;
 class QLabel;
 class QLineEdit;
-class QMenu;
 class QPushButton;
-class QRadioButton;
 class QScrollArea;
 class QTextBrowser;
 class QUndoStack;
@@ -49,12 +45,6 @@ class InputColumns;
 class RecentProjects;
 class QtDialogs;
 class SectionCanvas;
-class OtherValuesDialog;
-class DEstimateDialog;
-class SolutionsDialog;
-class InteractionDialog;
-class CasesDialog;
-class HelpDialog;
 class WindowDialogs;
 class Norma2014Panel;
 class Norma2014Results;

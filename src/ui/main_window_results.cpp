@@ -1,10 +1,10 @@
 // The main window's panels of output: the drawing, the messages, the results, the
 // verdict and the row of buttons, built in code, and the refresh of what the last
-// calculation said (its messages, "Verificação" and the windows that follow it).
+// calculation said (its messages, "Verificação" and the forms that follow it).
 
 #include "ui/main_window.h"
-#include "ui/window_dialogs.h"
 #include "ui/form_binding.h"
+#include "ui/window_dialogs.h"
 #include "ui/window_parts.h"
 
 #include "ui/interaction_dialog.h"

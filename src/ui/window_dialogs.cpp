@@ -36,7 +36,10 @@ void WindowDialogs::abreOutrosValores()
     if (!outros_)
         outros_ = new OtherValuesDialog(
             janela_.program_->Form8,
-            [this] { janela_.executa([this] { janela_.program_->Form8Command1_Click(); }, MainWindow::Edicao::Usuario, QStringLiteral("outros valores")); },
+            [this] {
+                janela_.executa([this] { janela_.program_->Form8Command1_Click(); }, MainWindow::Edicao::Usuario,
+                                QStringLiteral("outros valores"));
+            },
             [this](const std::string& mensagem) {
                 auto& form = janela_.program_->Form2;
                 form.Label1.Caption = mensagem;
@@ -53,7 +56,10 @@ void WindowDialogs::abreEstimativaDLinha()
     if (!estimativa_)
         estimativa_ = new DEstimateDialog(
             janela_.program_->Form5, [this] { janela_.executa([this] { janela_.program_->Form5Calcula(); }); },
-            [this] { janela_.executa([this] { janela_.program_->Form5Aceita(); }, MainWindow::Edicao::Usuario, QStringLiteral("estimativa de d'")); },
+            [this] {
+                janela_.executa([this] { janela_.program_->Form5Aceita(); }, MainWindow::Edicao::Usuario,
+                                QStringLiteral("estimativa de d'"));
+            },
             &janela_);
     // It starts from the bar, the stirrup and the cover of the last calculation.
     if (const auto& r = janela_.program_->Resultado; r && r->detailed && r->bar) {
