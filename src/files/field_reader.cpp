@@ -1,5 +1,7 @@
 #include "files/field_reader.h"
 
+#include "files/record_text.h"
+
 #include <cstdint>
 
 namespace pilarix {
@@ -33,41 +35,6 @@ void appendUtf8(std::string& out, char32_t c)
     }
 }
 
-// Strict UTF-8: no overlong forms, no surrogates, nothing above U+10FFFF.
-bool utf8Valido(std::string_view s)
-{
-    std::size_t i = 0;
-    while (i < s.size()) {
-        const auto b = static_cast<std::uint8_t>(s[i]);
-        std::size_t n = 0;
-        char32_t c = 0, min = 0;
-        if (b < 0x80) {
-            ++i;
-            continue;
-        } else if ((b & 0xE0) == 0xC0) {
-            n = 1, c = b & 0x1F, min = 0x80;
-        } else if ((b & 0xF0) == 0xE0) {
-            n = 2, c = b & 0x0F, min = 0x800;
-        } else if ((b & 0xF8) == 0xF0) {
-            n = 3, c = b & 0x07, min = 0x10000;
-        } else {
-            return false;
-        }
-        if (i + n >= s.size())
-            return false;
-        for (std::size_t k = 1; k <= n; ++k) {
-            const auto t = static_cast<std::uint8_t>(s[i + k]);
-            if ((t & 0xC0) != 0x80)
-                return false;
-            c = (c << 6) | (t & 0x3F);
-        }
-        if (c < min || c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF))
-            return false;
-        i += n + 1;
-    }
-    return true;
-}
-
 bool branco(char c) { return c == ' ' || c == '\t'; }
 
 } // namespace
@@ -76,7 +43,7 @@ std::string textoUtf8(std::string_view bytes)
 {
     if (bytes.substr(0, 3) == "\xEF\xBB\xBF")
         bytes.remove_prefix(3);
-    if (utf8Valido(bytes))
+    if (files::isUtf8(bytes))
         return std::string(bytes);
     std::string out;
     out.reserve(bytes.size() + bytes.size() / 8);
