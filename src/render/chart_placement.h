@@ -56,4 +56,30 @@ std::optional<std::pair<QRectF, int>> firstFree(const std::vector<QString>& text
                                                 QPointF at, double radius, double gap, const QRectF& room,
                                                 const Obstacles& obstacles, bool nearOnly = false);
 
+// The values of the two axes at the edges of the frame, clear of what is already
+// placed; one that would touch its neighbour is left out. `screen(x, y)` maps chart
+// values to the device, `frame` is the plot's area, `unit` one device millimetre or
+// so; `place(text, rect, alongX)` keeps each label that fits.
+template <typename Screen, typename Place>
+void placeTicks(const Axis& x, const Axis& y, const QFontMetricsF& fm, const QRectF& frame, double unit,
+                const Obstacles& obstacles, Screen screen, Place place)
+{
+    const int xd = decimalsFor(x.step), yd = decimalsFor(y.step);
+    for (double v : x.ticks) {
+        const QString t = tickText(v, xd);
+        const QRectF r = textRect(fm, t);
+        const QRectF at(screen(v, 0.0).x() - r.width() / 2, frame.bottom() + 4 * unit, r.width(), r.height());
+        if (!obstacles.blocks(at, false))
+            place(t, at, true);
+    }
+    for (double v : y.ticks) {
+        const QString t = tickText(v, yd);
+        const QRectF r = textRect(fm, t);
+        const QRectF at(frame.left() - 8 * unit - r.width(), screen(0.0, v).y() - r.height() / 2, r.width(),
+                        r.height());
+        if (!obstacles.blocks(at, false))
+            place(t, at, false);
+    }
+}
+
 } // namespace pilarix::render::placement

@@ -187,23 +187,12 @@ ChartLayout layoutChart(const InteractionChart& chart, const QRectF& bounds, con
         out.labels.push_back(std::move(l));
     };
 
-    // The values at the edges of the frame, clear of the curve; one that would touch
-    // its neighbour is left out.
-    const int md = decimalsFor(out.mStep), nd = decimalsFor(out.nStep);
-    for (double v : out.mTicks) {
-        const QString t = tickText(v, md);
-        const QRectF r = textRect(fm, t);
-        const QRectF at(out.toScreen(v, 0).x() - r.width() / 2, a.bottom() + 4 * u, r.width(), r.height());
-        if (!obstacles.blocks(at, false))
-            place({ChartLabel::Kind::MomentTick, t, at});
-    }
-    for (double v : out.nTicks) {
-        const QString t = tickText(v, nd);
-        const QRectF r = textRect(fm, t);
-        const QRectF at(a.left() - 8 * u - r.width(), out.toScreen(0, v).y() - r.height() / 2, r.width(), r.height());
-        if (!obstacles.blocks(at, false))
-            place({ChartLabel::Kind::ForceTick, t, at});
-    }
+    // The values at the edges of the frame, clear of the curve.
+    placeTicks(Axis{out.mLo, out.mHi, out.mStep, out.mTicks}, Axis{out.nLo, out.nHi, out.nStep, out.nTicks}, fm, a, u,
+               obstacles, [&](double m, double n) { return out.toScreen(m, n); },
+               [&](const QString& t, const QRectF& at, bool alongM) {
+                   place({alongM ? ChartLabel::Kind::MomentTick : ChartLabel::Kind::ForceTick, t, at});
+               });
 
     // N above its axis, M at the right end under its values.
     {

@@ -161,21 +161,11 @@ ContourLayout layoutContour(const report::MomentContour& c, const QRectF& bounds
         out.labels.push_back(std::move(l));
     };
 
-    const int xd = decimalsFor(out.xStep), yd = decimalsFor(out.yStep);
-    for (double v : out.xTicks) {
-        const QString t = tickText(v, xd);
-        const QRectF r = textRect(fm, t);
-        const QRectF at(out.toScreen(v, 0).x() - r.width() / 2, a.bottom() + 4 * u, r.width(), r.height());
-        if (!obstacles.blocks(at, false))
-            place({ContourLabel::Kind::XTick, t, at});
-    }
-    for (double v : out.yTicks) {
-        const QString t = tickText(v, yd);
-        const QRectF r = textRect(fm, t);
-        const QRectF at(a.left() - 8 * u - r.width(), out.toScreen(0, v).y() - r.height() / 2, r.width(), r.height());
-        if (!obstacles.blocks(at, false))
-            place({ContourLabel::Kind::YTick, t, at});
-    }
+    placeTicks(Axis{out.xLo, out.xHi, out.xStep, out.xTicks}, Axis{out.yLo, out.yHi, out.yStep, out.yTicks}, fm, a, u,
+               obstacles, [&](double x, double y) { return out.toScreen(x, y); },
+               [&](const QString& t, const QRectF& at, bool alongX) {
+                   place({alongX ? ContourLabel::Kind::XTick : ContourLabel::Kind::YTick, t, at});
+               });
     {
         // What the contour is of, at the top left.
         const QString t = QStringLiteral("N_Sd = %1 %2")
