@@ -5,6 +5,7 @@
 #include "report/report_2014.h"
 
 #include "base/number_text.h"
+#include "report/report_numbers.h"
 #include "window/program.h"
 #include "window/units.h"
 
@@ -15,40 +16,7 @@ namespace pilarix::report {
 
 namespace {
 
-std::string fixed(double x, int decimals)
-{
-    if (!std::isfinite(x))
-        return "—";
-    std::string mask = "##0";
-    if (decimals > 0)
-        mask += "." + std::string(static_cast<std::size_t>(decimals), '0');
-    return Format(x, mask);
-}
-
-// Four significant figures at least, as the rest of the report writes forces.
-std::string significant(double x)
-{
-    if (!std::isfinite(x))
-        return "—";
-    const double a = std::abs(x);
-    const int decimals = std::clamp(a > 0 ? 3 - static_cast<int>(std::floor(std::log10(a))) : 1, 0, 6);
-    return fixed(x, decimals);
-}
-
-struct Unit {
-    std::string name;
-    double factor;
-};
-
-Unit unitOf(const std::string& name, const char* fallbackName, double fallbackFactor)
-{
-    if (const auto f = fatorDaUnidade(name))
-        return {name, *f};
-    return {fallbackName, fallbackFactor};
-}
-
-constexpr double kKgfPerKn = 100;
-constexpr double kKgfCmPerKnM = 10000;
+using namespace numbers;
 
 std::string moment(double kgfCm, const Unit& u)
 {

@@ -9,6 +9,7 @@
 #include "report/report_2014.h"
 
 #include "base/number_text.h"
+#include "report/report_numbers.h"
 #include "engine/catalogue.h"
 #include "engine/checks.h"
 #include "engine/column.h"
@@ -62,45 +63,7 @@ namespace {
 
 // ---- numbers ----
 
-std::string fixed(double x, int decimals)
-{
-    if (!std::isfinite(x))
-        return "—";
-    std::string mask = "##0";
-    if (decimals > 0)
-        mask += "." + std::string(static_cast<std::size_t>(decimals), '0');
-    return Format(x, mask);
-}
-
-// Four significant figures at least, whatever the unit makes of the magnitude
-// (40 Tf and 40000 Kgf alike), and never fewer decimals than `least`.
-std::string significant(double x, int least = 0)
-{
-    if (!std::isfinite(x))
-        return "—";
-    const double a = std::abs(x);
-    int decimals = a > 0 ? 3 - static_cast<int>(std::floor(std::log10(a))) : 1;
-    decimals = std::clamp(decimals, least, 6);
-    return fixed(x, decimals);
-}
-
-// A unit of the window's lists and its factor to the program's units; where the
-// list holds a name the units table does not know (a hand-edited file), the value
-// is given in kN or kN·m instead.
-struct Unit {
-    std::string name;
-    double factor;
-};
-
-Unit unitOf(const std::string& name, const char* fallbackName, double fallbackFactor)
-{
-    if (const auto f = fatorDaUnidade(name))
-        return {name, *f};
-    return {fallbackName, fallbackFactor};
-}
-
-constexpr double kKgfPerKn = 100;
-constexpr double kKgfCmPerKnM = 10000;
+using namespace numbers;
 constexpr double kKgfCm2PerMpa = 10;
 
 // A force in the unit of the window's list and in kN. `typed`: the value the

@@ -1,0 +1,25 @@
+#pragma once
+// How the report writes its numbers and units, for every section of it: fixed
+// decimals, four significant figures at least, and the unit of a window's list with
+// its factor to the program's units (kN or kN·m where a hand-edited file names one
+// the units table does not know).
+
+#include <string>
+
+namespace pilarix::report::numbers {
+
+std::string fixed(double x, int decimals);
+// Four significant figures at least, whatever the unit makes of the magnitude
+// (40 Tf and 40000 Kgf alike), and never fewer decimals than `least`.
+std::string significant(double x, int least = 0);
+
+struct Unit {
+    std::string name;
+    double factor;
+};
+Unit unitOf(const std::string& name, const char* fallbackName, double fallbackFactor);
+
+inline constexpr double kKgfPerKn = 100;
+inline constexpr double kKgfCmPerKnM = 10000;
+
+} // namespace pilarix::report::numbers
