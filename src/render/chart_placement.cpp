@@ -108,6 +108,17 @@ bool segmentMeetsRect(QPointF a, QPointF b, const QRectF& r)
     return false;
 }
 
+bool Extent::take(double x, double y)
+{
+    if (!std::isfinite(x) || !std::isfinite(y))
+        return false;
+    xMin = std::min(xMin, x);
+    xMax = std::max(xMax, x);
+    yMin = std::min(yMin, y);
+    yMax = std::max(yMax, y);
+    return true;
+}
+
 bool Obstacles::blocks(const QRectF& r, bool withSoft) const
 {
     for (const QRectF& h : hard)

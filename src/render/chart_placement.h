@@ -13,6 +13,7 @@
 #include <QSizeF>
 #include <QString>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -36,6 +37,15 @@ double widestLabel(const QFontMetricsF& fm, const Axis& a);
 QFont bold(const QFont& f);
 
 bool segmentMeetsRect(QPointF a, QPointF b, const QRectF& r);
+
+// The values a chart must show, the origin always among them (the axes cross there):
+// what is not finite is left out.
+struct Extent {
+    double xMin = 0, xMax = 0, yMin = 0, yMax = 0;
+    // False for a point that is not finite.
+    bool take(double x, double y);
+    double largest() const { return std::max({-xMin, xMax, -yMin, yMax}); }
+};
 
 struct Obstacles {
     std::vector<QRectF> hard;                      // labels and markers

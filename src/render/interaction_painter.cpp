@@ -104,29 +104,20 @@ ChartLayout layoutChart(const InteractionChart& chart, const QRectF& bounds, con
     const double u = style.unit;
 
     // The origin is always in view: the axes cross there and the ray starts there.
-    double mMin = 0, mMax = 0, nMin = 0, nMax = 0;
-    const auto take = [&](double m, double n) {
-        if (!finite(m) || !finite(n))
-            return;
-        mMin = std::min(mMin, m);
-        mMax = std::max(mMax, m);
-        nMin = std::min(nMin, n);
-        nMax = std::max(nMax, n);
-    };
+    Extent e; // M across, N up
+    const auto take = [&](double m, double n) { return e.take(m, n); };
     std::size_t finiteCurve = 0;
     for (const auto& [n, m] : chart.curve)
-        if (finite(n) && finite(m)) {
-            take(m, n);
-            ++finiteCurve;
-        }
+        finiteCurve += take(m, n) ? 1 : 0;
     for (const auto& c : chart.cases)
         take(c.m, c.n);
     if (out.governing >= 0 && chart.mRd)
         take(*chart.mRd, chart.cases[static_cast<std::size_t>(out.governing)].n);
-    out.drawable = finiteCurve >= 3 && std::max({-mMin, mMax, -nMin, nMax}) <= kLargest;
+    out.drawable = finiteCurve >= 3 && e.largest() <= kLargest;
     if (!out.drawable)
         return out;
 
+    const double mMin = e.xMin, mMax = e.xMax, nMin = e.yMin, nMax = e.yMax;
     const QFontMetricsF fm(style.font, device), bm(bold(style.font), device);
     const double line = fm.height();
     // Above: the title of N. Below: the values of M and its title. Left: the values of N.

@@ -75,21 +75,11 @@ ContourLayout layoutContour(const report::MomentContour& c, const QRectF& bounds
     out.governing = mostUsedPoint(c);
     const double u = style.unit;
 
-    double xMin = 0, xMax = 0, yMin = 0, yMax = 0;
-    const auto take = [&](double x, double y) {
-        if (!finite(x) || !finite(y))
-            return;
-        xMin = std::min(xMin, x);
-        xMax = std::max(xMax, x);
-        yMin = std::min(yMin, y);
-        yMax = std::max(yMax, y);
-    };
+    Extent e;
+    const auto take = [&](double x, double y) { return e.take(x, y); };
     std::size_t finiteContour = 0;
     for (const auto& [x, y] : c.contour)
-        if (finite(x) && finite(y)) {
-            take(x, y);
-            ++finiteContour;
-        }
+        finiteContour += take(x, y) ? 1 : 0;
     for (const auto& p : c.points)
         take(p.mx, p.my);
     const bool withEllipse = c.semiAxisX > 0 && c.semiAxisY > 0 && finite(c.semiAxisX) && finite(c.semiAxisY);
@@ -97,10 +87,11 @@ ContourLayout layoutContour(const report::MomentContour& c, const QRectF& bounds
         take(-c.semiAxisX, -c.semiAxisY);
         take(c.semiAxisX, c.semiAxisY);
     }
-    out.drawable = finiteContour >= 3 && std::max({-xMin, xMax, -yMin, yMax}) <= kLargest;
+    out.drawable = finiteContour >= 3 && e.largest() <= kLargest;
     if (!out.drawable)
         return out;
 
+    const double xMin = e.xMin, xMax = e.xMax, yMin = e.yMin, yMax = e.yMax;
     const QFontMetricsF fm(style.font, device), bm(bold(style.font), device);
     const double line = fm.height();
     // Above: the caption and the title of My. Below: the values of Mx and its title.
