@@ -16,27 +16,29 @@ const std::vector<std::string> kColunas{"arquivo", "b (cm)",  "h (cm)",  "barras
                                         "AsReal (cm2)", "aço (kg)", "estribo", "utilização", "caso", "resultado"};
 } // namespace
 
-BatchRow batchRow(const Program& p, const std::string& file)
+BatchRow batchRow(const app::CalculationRecord& record, const std::string& file)
 {
     BatchRow r;
     r.arquivo = file.empty() ? "(padrão)" : file;
-    const auto& m = p.metodo;
-    const bool detalhado = p.Resultado && p.Resultado->detailed;
+    const auto& m = record.method;
+    const WindowReading& p = record.reading;
+    const auto& resultado = record.result;
+    const bool detalhado = resultado && resultado->detailed;
     std::string caso;
-    for (const auto& c : p.ResultadosDosCasos)
-        if (c.governa)
-            caso = c.nome;
+    for (const auto& c : record.cases)
+        if (c.governing)
+            caso = c.name;
     r.valores = {Str(p.Base), Str(p.Altura), Str(p.nBase) + " x " + Str(p.nAltura),
                  detalhado ? Str(m.DiamLong * 10) : "",
-                 p.Resultado && p.Resultado->designed ? Format(m.AsNec, "##0.00") : "",
+                 resultado && resultado->designed ? Format(m.AsNec, "##0.00") : "",
                  detalhado ? Format(m.AsReal, "##0.00") : "",
                  detalhado ? Format(m.PesoLong, "##0.00") : "",
                  detalhado ? m.TextoEstribo : "",
-                 p.Verificacao && std::isfinite(p.Verificacao->utilisation)
-                     ? Format(100 * p.Verificacao->utilisation, "##0.0") + " %"
+                 record.verification && std::isfinite(record.verification->utilisation)
+                     ? Format(100 * record.verification->utilisation, "##0.0") + " %"
                      : "",
                  caso};
-    r.resultado = p.Form1.Text30.Text.empty() ? "erro" : p.Form1.Text30.Text;
+    r.resultado = record.verdict.empty() ? "erro" : record.verdict;
     return r;
 }
 

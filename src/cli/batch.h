@@ -3,7 +3,7 @@
 // every core, the results printed in the order of the files; a summary row per
 // project for a table or a CSV file.
 
-#include "window/program.h"
+#include "app/calculation_record.h"
 
 #include <functional>
 #include <iosfwd>
@@ -20,7 +20,7 @@ struct BatchRow {
     std::string resultado; // "Ok", "erro", or why the project could not run
 };
 
-BatchRow batchRow(const Program& p, const std::string& file);
+BatchRow batchRow(const app::CalculationRecord& record, const std::string& file);
 
 // Runs job(0) ... job(n - 1) on a pool of threads, one per core.
 void runInParallel(std::size_t n, const std::function<void(std::size_t)>& job);

@@ -80,26 +80,35 @@ bool load(Program& p, const std::string& file, std::string& error)
     return true;
 }
 
-void report(const Program& p, const PolicyDialogs& d, std::ostream& out)
+// A box of the record by the name the window gives it; empty for a name it has not.
+const std::string& box(const app::CalculationRecord& r, std::string_view name)
 {
-    const auto& f = p.Form1;
-    out << "Pilarix - pilar " << f.Text1.Text << " x " << f.Text2.Text << " cm, comprimento " << f.Text23.Text
-        << " cm\n";
-    out << "Barras por face: base " << f.Text4.Text << ", altura " << f.Text5.Text << "; d' = " << f.Text3.Text
-        << " cm\n";
-    out << "Nd = " << f.Text16.Text << " " << f.Combo4.Text << ", Md = " << f.Text17.Text << " " << f.Combo5.Text
-        << ", fck = " << f.Text18.Text << " " << f.Combo6.Text << ", " << f.Combo1.Text << "\n";
-    out << "Zona: " << f.Text8.Text << " (" << engine::zoneLetter(p.metodo.Zona) << "), Bx = " << f.Text28.Text
-        << ", altura da L.N. = " << f.Text29.Text << " cm\n";
-    out << "Área de aço (cm2): mínima " << f.Text9.Text << ", teórica " << f.Text10.Text << ", efetiva "
-        << f.Text11.Text << "\n";
-    out << "Por barra (cm2): mínima " << f.Text12.Text << ", teórica " << f.Text13.Text << ", efetiva "
-        << f.Text14.Text << "\n";
-    out << "Bitola: " << Str(p.metodo.DiamLong * 10) << " mm; excesso " << f.Text15.Text << "; aço " << f.Text19.Text
+    static const std::string none;
+    for (const auto& b : r.boxes)
+        if (b.name == name)
+            return b.text;
+    return none;
+}
+
+void report(const app::CalculationRecord& r, std::ostream& out)
+{
+    const auto t = [&r](std::string_view name) -> const std::string& { return box(r, name); };
+    const app::ProjectInput& in = r.project;
+    out << "Pilarix - pilar " << t("Text1") << " x " << t("Text2") << " cm, comprimento " << t("Text23") << " cm\n";
+    out << "Barras por face: base " << t("Text4") << ", altura " << t("Text5") << "; d' = " << t("Text3") << " cm\n";
+    out << "Nd = " << t("Text16") << " " << in.forceUnit << ", Md = " << t("Text17") << " " << in.momentUnit
+        << ", fck = " << t("Text18") << " " << in.strengthUnit << ", " << in.steelGrade << "\n";
+    out << "Zona: " << t("Text8") << " (" << engine::zoneLetter(r.method.Zona) << "), Bx = " << t("Text28")
+        << ", altura da L.N. = " << t("Text29") << " cm\n";
+    out << "Área de aço (cm2): mínima " << t("Text9") << ", teórica " << t("Text10") << ", efetiva " << t("Text11")
+        << "\n";
+    out << "Por barra (cm2): mínima " << t("Text12") << ", teórica " << t("Text13") << ", efetiva " << t("Text14")
+        << "\n";
+    out << "Bitola: " << Str(r.method.DiamLong * 10) << " mm; excesso " << t("Text15") << "; aço " << t("Text19")
         << " kg\n";
-    out << "Estribo: " << f.Text27.Text << "; cobrimento nominal " << f.Text25.Text << " cm, efetivo "
-        << f.Text26.Text << " cm\n";
-    for (const auto& m : d.records) {
+    out << "Estribo: " << t("Text27") << "; cobrimento nominal " << t("Text25") << " cm, efetivo " << t("Text26")
+        << " cm\n";
+    for (const auto& m : r.transcript) {
         out << "[" << m.janela << "] " << m.mensagem;
         if (!m.item.empty())
             out << " (" << m.item << ")";
@@ -107,7 +116,7 @@ void report(const Program& p, const PolicyDialogs& d, std::ostream& out)
             out << " -> resposta " << m.resposta;
         out << "\n";
     }
-    if (const auto& v = p.Verificacao) {
+    if (const auto& v = r.verification) {
         // In the units of the forces typed: kgf and kgf.cm divided by the units' factors.
         out << "Verificação por compatibilidade de deformações: N_Sd = " << Format(v->nSd / 100, "##0.0") << " kN, M_Sd = "
             << Format(v->mSd / 10000, "##0.00") << " kN.m; M_Rd = "
@@ -115,26 +124,27 @@ void report(const Program& p, const PolicyDialogs& d, std::ostream& out)
             << "; utilização " << (std::isfinite(v->utilisation) ? Format(100 * v->utilisation, "##0.0") + " %" : "sem limite")
             << "; As por compatibilidade " << (v->asCompat ? Format(*v->asCompat, "##0.00") + " cm2" : "nenhuma") << "\n";
     }
-    out << "Erros: " << f.Text30.Text << "\n";
+    out << "Erros: " << r.verdict << "\n";
 }
 
 } // namespace
 
-nlohmann::ordered_json caixasJson(const Program& p)
+nlohmann::ordered_json caixasJson(const app::CalculationRecord& r)
 {
     nlohmann::ordered_json j = nlohmann::ordered_json::object();
-    for (const auto& [name, box] : textBoxesOf(p.Form1)) {
-        j[name] = box->Text;
-        if (name.rfind("Text7(", 0) == 0)
-            j[name + ".destaque"] = box->BackColor == kDarkBlue;
+    for (const auto& b : r.boxes) {
+        j[b.name] = b.text;
+        if (b.name.rfind("Text7(", 0) == 0)
+            j[b.name + ".destaque"] = b.highlighted;
     }
     return j;
 }
 
-nlohmann::ordered_json estadoJson(const Program& p)
+nlohmann::ordered_json estadoJson(const app::CalculationRecord& r)
 {
     nlohmann::ordered_json j = nlohmann::ordered_json::object();
-    const engine::MethodState& m = p.metodo;
+    const engine::MethodState& m = r.method;
+    const WindowReading& p = r.reading;
     j["Base"] = p.Base;
     j["Altura"] = p.Altura;
     j["Comprimento"] = p.Comprimento;
@@ -241,8 +251,8 @@ nlohmann::ordered_json estadoJson(const Program& p)
     j["MensagemErro"] = m.MensagemErro;
     j["ItemNorma"] = m.ItemNorma;
     j["Recalcula"] = textoDoRecalculo(m.Recalcula);
-    j["NSolucoes"] = p.NSolucoes;
-    j["SolucaoAtual"] = p.SolucaoAtual;
+    j["NSolucoes"] = r.solutionsFound;
+    j["SolucaoAtual"] = r.solutionShown;
     j["EpsInf"] = m.EpsInf;
     j["PatamarC"] = m.PatamarC;
     j["EtaLinC1"] = m.EtaLinC1;
@@ -391,7 +401,7 @@ nlohmann::ordered_json obliquaJson(const engine::ObliqueCheck& o)
     return j;
 }
 
-nlohmann::ordered_json norma2014Json(const Program& program, const engine::Column2014Result& r)
+nlohmann::ordered_json norma2014Json(const app::CalculationRecord& record, const engine::Column2014Result& r)
 {
     nlohmann::ordered_json j;
     j["gamaN"] = r.gammaN;
@@ -401,7 +411,7 @@ nlohmann::ordered_json norma2014Json(const Program& program, const engine::Colum
         return j;
     const engine::CaseResult2014& g = r.cases[static_cast<std::size_t>(r.governingCase)];
     j["NSd"] = g.nSd;
-    j["metodo"] = program.Form1.SegundaOrdem.Text;
+    j["metodo"] = record.project.secondOrder;
     j["caso"] = g.loadCase.name;
     j["direcoes"] = {{"h", direcaoJson(g.h)}, {"b", direcaoJson(g.b)}};
     j["governa"] = std::string(1, r.governingDirection);
@@ -413,16 +423,16 @@ nlohmann::ordered_json norma2014Json(const Program& program, const engine::Colum
     return j;
 }
 
-nlohmann::ordered_json documentJson(const Program& program, const PolicyDialogs& dialogs, bool melhor)
+nlohmann::ordered_json documentJson(const app::CalculationRecord& record, bool melhor)
 {
     nlohmann::ordered_json doc;
-    doc["Erros"] = program.Form1.Text30.Text;
-    doc["caixas"] = caixasJson(program);
-    doc["estado"] = estadoJson(program);
-    doc["mensagens"] = mensagensJson(dialogs.records);
+    doc["Erros"] = record.verdict;
+    doc["caixas"] = caixasJson(record);
+    doc["estado"] = estadoJson(record);
+    doc["mensagens"] = mensagensJson(record.transcript);
     if (melhor) {
         nlohmann::ordered_json rows = nlohmann::ordered_json::array();
-        for (const auto& s : program.Ordenadas)
+        for (const auto& s : record.solutions)
             rows.push_back({{"peso", s.peso},
                             {"nBase", s.nBase},
                             {"nAltura", s.nAltura},
@@ -431,25 +441,25 @@ nlohmann::ordered_json documentJson(const Program& program, const PolicyDialogs&
                             {"dLinha", s.dLinha}});
         doc["solucoes"] = rows;
     }
-    if (program.Verificacao)
-        doc["verificacao"] = verificacaoJson(*program.Verificacao);
-    if (program.norma2014() && program.Resultado2014) {
-        doc["norma2014"] = norma2014Json(program, *program.Resultado2014);
-        if (program.Resultado2014->oblique)
-            doc["verificacaoObliqua"] = obliquaJson(*program.Resultado2014->oblique);
+    if (record.verification)
+        doc["verificacao"] = verificacaoJson(*record.verification);
+    if (record.project.rules2014 && record.result2014) {
+        doc["norma2014"] = norma2014Json(record, *record.result2014);
+        if (record.result2014->oblique)
+            doc["verificacaoObliqua"] = obliquaJson(*record.result2014->oblique);
     }
-    if (!program.ResultadosDosCasos.empty()) {
+    if (!record.cases.empty()) {
         nlohmann::ordered_json casos = nlohmann::ordered_json::array();
-        for (const auto& c : program.ResultadosDosCasos)
-            casos.push_back({{"nome", c.nome},
+        for (const auto& c : record.cases)
+            casos.push_back({{"nome", c.name},
                              {"Nd", c.Nd},
                              {"Md", c.Md},
-                             {"Zona", engine::zoneLetter(c.zona)},
+                             {"Zona", engine::zoneLetter(c.zone)},
                              {"BetaX", c.betaX},
                              {"AsNec", c.asNec},
-                             {"utilizacao", std::isfinite(c.utilizacao) ? nlohmann::ordered_json(c.utilizacao)
-                                                                        : nlohmann::ordered_json(nullptr)},
-                             {"governa", c.governa}});
+                             {"utilizacao", std::isfinite(c.utilisation) ? nlohmann::ordered_json(c.utilisation)
+                                                                         : nlohmann::ordered_json(nullptr)},
+                             {"governa", c.governing}});
         doc["casos"] = casos;
     }
     return doc;
@@ -473,17 +483,18 @@ bool endsWith(std::string name, const std::string& suffix)
 }
 
 // The drawing of the detailed section, at the scale of "Escala" for SVG and PNG.
-bool writeDrawing(const Program& p, const std::string& path, const DrawingWriter& writer, std::string& error)
+bool writeDrawing(const app::CalculationRecord& r, const std::string& path, const DrawingWriter& writer,
+                  std::string& error)
 {
-    if (!p.Desenho) {
+    if (!r.drawing) {
         error = "não há seção detalhada para desenhar em \"" + path + "\": o cálculo terminou antes do detalhamento";
         return false;
     }
-    const double scale = p.Escala > 0 ? p.Escala : 5;
+    const double scale = r.reading.Escala > 0 ? r.reading.Escala : 5;
     if (writer)
-        return writer(*p.Desenho, path, scale, error);
+        return writer(*r.drawing, path, scale, error);
     if (endsWith(path, ".dxf"))
-        return exporting::writeDxf(*p.Desenho, path, error);
+        return exporting::writeDxf(*r.drawing, path, error);
     error = "\"" + path + "\": este pilarix-cli grava o desenho apenas em DXF (.dxf)";
     return false;
 }
@@ -546,26 +557,28 @@ ProjectRun runProject(const cli::Options& o, const std::string& given, const std
             return stop(program.ErroArquivo);
     }
 
-    if (!o.desenho.empty() && !writeDrawing(program, o.desenho, writer, error)) {
+    // Every output of this run reads the one record of its calculation.
+    const app::CalculationRecord record = program.registroDoCalculo();
+    if (!o.desenho.empty() && !writeDrawing(record, o.desenho, writer, error)) {
         err << "pilarix-cli: " << error << "\n";
         r.status = 2;
     }
-    if (!o.memorial.empty() && !writeMemorial(program, o.memorial, reportWriter, error)) {
+    if (!o.memorial.empty() && !writeMemorial(record, o.memorial, reportWriter, error)) {
         err << "pilarix-cli: " << error << "\n";
         r.status = 2;
     }
 
-    r.row = batchRow(program, file);
+    r.row = batchRow(record, file);
     if (batch) {
         if (o.json) {
             nlohmann::ordered_json doc{{"arquivo", file}};
-            doc.update(documentJson(program, dialogs, o.melhor));
+            doc.update(documentJson(record, o.melhor));
             out << dumpJson(doc, -1) << "\n";
         }
     } else if (!o.json) {
-        report(program, dialogs, out);
+        report(record, out);
     } else {
-        out << dumpJson(documentJson(program, dialogs, o.melhor), 2) << "\n";
+        out << dumpJson(documentJson(record, o.melhor), 2) << "\n";
     }
     r.out = out.str();
     r.err = err.str();

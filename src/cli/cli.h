@@ -25,17 +25,19 @@ using DrawingWriter = std::function<bool(const engine::SectionGeometry& geometry
 int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err,
            const DrawingWriter& writer = {}, const ReportWriter& reportWriter = {});
 
+// Every JSON of a run is made from the record of its calculation.
+
 // The calculation state, keyed by field name.
-nlohmann::ordered_json estadoJson(const Program& program);
+nlohmann::ordered_json estadoJson(const app::CalculationRecord& record);
 
 // The object "verificacaoObliqua": both directions together, in the units of "estado".
 nlohmann::ordered_json obliquaJson(const engine::ObliqueCheck& check);
 // The object "norma2014" of a calculation by ABNT NBR 6118:2014.
-nlohmann::ordered_json norma2014Json(const Program& program, const engine::Column2014Result& r);
+nlohmann::ordered_json norma2014Json(const app::CalculationRecord& record, const engine::Column2014Result& r);
 
-// The whole document of --json: "Erros", "caixas", "estado", the messages the
-// dialogs recorded and, after a search, "solucoes".
-nlohmann::ordered_json documentJson(const Program& program, const PolicyDialogs& dialogs, bool melhor);
+// The whole document of --json: "Erros", "caixas", "estado", the messages of the
+// calculation and, after a search, "solucoes".
+nlohmann::ordered_json documentJson(const app::CalculationRecord& record, bool melhor);
 
 // The check of the detailed column by strain compatibility, as "verificacao" of --json.
 nlohmann::ordered_json verificacaoJson(const engine::Verification& verification);
@@ -44,6 +46,6 @@ nlohmann::ordered_json verificacaoJson(const engine::Verification& verification)
 nlohmann::ordered_json mensagensJson(const std::vector<DialogRecord>& records);
 
 // The text of every text box of the main window, keyed by control name.
-nlohmann::ordered_json caixasJson(const Program& program);
+nlohmann::ordered_json caixasJson(const app::CalculationRecord& record);
 
 } // namespace pilarix

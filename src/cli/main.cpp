@@ -52,9 +52,9 @@ int main(int argc, char** argv)
         ensureApp();
         return pilarix::render::exportDrawing(g, path, scale, error);
     };
-    memorial = [&](const pilarix::Program& program, const std::string& path, std::string& error) {
+    memorial = [&](const pilarix::app::CalculationRecord& record, const std::string& path, std::string& error) {
         ensureApp();
-        return pilarix::render::writeReport(program, path, pilarix::render::currentStamp(), error);
+        return pilarix::render::writeReport(record, path, pilarix::render::currentStamp(), error);
     };
 #endif
     return pilarix::runCli(std::vector<std::string>(argv + 1, argv + argc), std::cout, std::cerr, writer, memorial);

@@ -8,13 +8,17 @@
 
 namespace pilarix {
 
-class Program;
+namespace app {
+struct CalculationRecord;
+}
 
-// Writes the report of the program's last calculation to `path`; false, with the
-// file and the reason in Portuguese, when it cannot.
-using ReportWriter = std::function<bool(const Program& program, const std::string& path, std::string& error)>;
+// Writes the report of a calculation's record to `path`; false, with the file and
+// the reason in Portuguese, when it cannot.
+using ReportWriter =
+    std::function<bool(const app::CalculationRecord& record, const std::string& path, std::string& error)>;
 
 // The report through `writer`; without one (a build without Qt Gui) false, saying so.
-bool writeMemorial(const Program& program, const std::string& path, const ReportWriter& writer, std::string& error);
+bool writeMemorial(const app::CalculationRecord& record, const std::string& path, const ReportWriter& writer,
+                   std::string& error);
 
 } // namespace pilarix

@@ -675,12 +675,12 @@ bool writeReportPdf(const report::ReportData& r, const std::string& path, std::s
     return saveWholeFile(bytes, path, error);
 }
 
-bool writeReport(const Program& program, const std::string& path, const report::ReportStamp& stamp,
+bool writeReport(const app::CalculationRecord& record, const std::string& path, const report::ReportStamp& stamp,
                  std::string& error)
 {
     report::ReportData r;
     std::string why;
-    if (!report::buildReport(program, stamp, r, why)) {
+    if (!report::buildReport(record, stamp, r, why)) {
         error = path.empty() ? why : exporting::saveFailure(path, why);
         return false;
     }

@@ -3,7 +3,7 @@
 // real text in embedded fonts, the interaction diagram and the section's drawing as
 // vector paths (Qt's own PDF writer; Qt Gui only, no widgets).
 //
-//   writeReport(program, path, stamp, error)   the report of the window's last calculation
+//   writeReport(record, path, stamp, error)    the report of one calculation's record
 //   writeReportPdf(report, path, error)        the same from report data already built
 //   currentStamp()                             now, "dd/MM/yyyy HH:mm", and Pilarix's version
 //
@@ -29,13 +29,9 @@
 
 #include <string>
 
-namespace pilarix {
-class Program;
-}
-
 namespace pilarix::render {
 
-bool writeReport(const Program& program, const std::string& path, const report::ReportStamp& stamp,
+bool writeReport(const app::CalculationRecord& record, const std::string& path, const report::ReportStamp& stamp,
                  std::string& error);
 
 bool writeReportPdf(const report::ReportData& report, const std::string& path, std::string& error);

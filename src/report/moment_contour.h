@@ -8,15 +8,15 @@
 //
 // Mx is the moment of the direction of h (the main window's Md), My that of b.
 //
-//   momentContourOf(program)   none where there is no 2014 check to draw
+//   momentContourOf(record)    none where there is no 2014 check to draw
 
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
-namespace pilarix {
-class Program;
+namespace pilarix::app {
+struct CalculationRecord;
 }
 
 namespace pilarix::report {
@@ -45,7 +45,7 @@ struct MomentContour {
     bool several = false;   // two or more load cases: the points are named by case
 };
 
-std::optional<MomentContour> momentContourOf(const Program& program);
+std::optional<MomentContour> momentContourOf(const app::CalculationRecord& record);
 
 // "intermediaria" of the engine as the page spells it.
 std::string sectionName(const std::string& engineName);

@@ -6,8 +6,7 @@
 
 #include "base/number_text.h"
 #include "report/report_numbers.h"
-#include "window/program.h"
-#include "window/units.h"
+#include "app/calculation_record.h"
 
 #include <algorithm>
 #include <cmath>
@@ -80,14 +79,14 @@ std::string sectionName(const std::string& engineName)
     return engineName == "intermediaria" ? std::string("intermediária") : engineName;
 }
 
-std::optional<MomentContour> momentContourOf(const Program& p)
+std::optional<MomentContour> momentContourOf(const app::CalculationRecord& rec)
 {
-    if (!p.norma2014() || !p.Resultado2014 || !p.Resultado2014->oblique)
+    if (!rec.project.rules2014 || !rec.result2014 || !rec.result2014->oblique)
         return std::nullopt;
-    const engine::Column2014Result& r = *p.Resultado2014;
+    const engine::Column2014Result& r = *rec.result2014;
     const engine::ObliqueCheck& o = *r.oblique;
-    const Unit f = unitOf(p.Form1.Combo4.Text, "kN", kKgfPerKn);
-    const Unit m = unitOf(p.Form1.Combo5.Text, "kN·m", kKgfCmPerKnM);
+    const Unit f = unitOf(rec.project.forceUnit, "kN", kKgfPerKn);
+    const Unit m = unitOf(rec.project.momentUnit, "kN·m", kKgfCmPerKnM);
     MomentContour c;
     c.forceUnit = f.name;
     c.momentUnit = m.name;
@@ -111,22 +110,22 @@ std::optional<MomentContour> momentContourOf(const Program& p)
     return c;
 }
 
-void addNorma2014(const Program& p, ReportData& report)
+void addNorma2014(const app::CalculationRecord& rec, ReportData& report)
 {
-    if (!p.norma2014())
+    if (!rec.project.rules2014)
         return;
-    report.norma = p.Form1.Norma.Text;
+    report.norma = rec.project.ruleSet;
     // The rule set heads the data, before anything it governs.
     if (!report.sections.empty()) {
         auto& lines = report.sections.front().lines;
         lines.insert(lines.begin(), Line{"Norma", report.norma, "", "regras de γn, esbeltez, 2ª ordem e detalhamento"});
     }
-    if (!p.Resultado2014)
+    if (!rec.result2014)
         return;
-    const engine::Column2014Result& r = *p.Resultado2014;
-    const Unit f = unitOf(p.Form1.Combo4.Text, "kN", kKgfPerKn);
-    const Unit m = unitOf(p.Form1.Combo5.Text, "kN·m", kKgfCmPerKnM);
-    const bool curvature = p.Form1.SegundaOrdem.Text != "rigidez";
+    const engine::Column2014Result& r = *rec.result2014;
+    const Unit f = unitOf(rec.project.forceUnit, "kN", kKgfPerKn);
+    const Unit m = unitOf(rec.project.momentUnit, "kN·m", kKgfCmPerKnM);
+    const bool curvature = rec.project.secondOrder != "rigidez";
 
     Section general;
     general.title = "Esbeltez e efeitos locais de 2ª ordem (" + report.norma + ")";
@@ -186,7 +185,7 @@ void addNorma2014(const Program& p, ReportData& report)
     for (const auto& c : o.failures)
         both.notes.push_back(c.text + " (" + std::string(c.clause) + ")");
     report.norma2014.push_back(std::move(both));
-    report.momentContour = momentContourOf(p);
+    report.momentContour = momentContourOf(rec);
 }
 
 } // namespace pilarix::report

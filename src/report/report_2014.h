@@ -9,8 +9,8 @@
 
 namespace pilarix::report {
 
-// Fills report.norma, report.norma2014 and report.momentContour when the program
-// calculated under 2014 or 2023; leaves them empty otherwise.
-void addNorma2014(const Program& program, ReportData& report);
+// Fills report.norma, report.norma2014 and report.momentContour when the record is
+// of a calculation under 2014 or 2023; leaves them empty otherwise.
+void addNorma2014(const app::CalculationRecord& record, ReportData& report);
 
 } // namespace pilarix::report

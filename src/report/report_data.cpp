@@ -1,5 +1,5 @@
-// The calculation report's contents from the window's last calculation: what it was
-// given (ColumnInput), what it found (ColumnResult), the check by strain
+// The calculation report's contents from the record of one calculation: what it was
+// given (the project), what it found (ColumnResult), the check by strain
 // compatibility and every dialog it showed. Numbers are written as the window writes
 // them (a point for the decimals), so that the report reads like the screen the
 // engineer checked it on.
@@ -14,8 +14,7 @@
 #include "engine/checks.h"
 #include "engine/column.h"
 #include "engine/materials.h"
-#include "window/program.h"
-#include "window/units.h"
+#include "app/calculation_record.h"
 
 #include <algorithm>
 #include <array>
@@ -29,20 +28,6 @@
 namespace pilarix::report {
 
 std::string_view programVersion() { return PILARIX_VERSION; }
-
-std::string withoutAccessKey(std::string_view caption)
-{
-    std::string out;
-    out.reserve(caption.size());
-    for (std::size_t i = 0; i < caption.size(); ++i) {
-        if (caption[i] == '&' && i + 1 < caption.size()) {
-            out += caption[++i]; // "&&" leaves one ampersand, "&x" the x
-            continue;
-        }
-        out += caption[i];
-    }
-    return out;
-}
 
 double drawingScale(double width, double height, double roomWidth, double roomHeight)
 {
@@ -107,25 +92,6 @@ std::string barLabel(int index)
 
 // ---- the arrangement a search put into the window ----
 
-// The row of the search's list this calculation is of: the window's arrangement is
-// the one "Soluções" has selected, as the search put it in (bars per face, the
-// stirrup, and the candidate's d' typed). None when no search ran, or when the
-// window was calculated with another arrangement since.
-const SolutionRow* solutionShown(const Program& p)
-{
-    if (p.Ordenadas.empty() || p.SolucaoAtual < 1 || static_cast<std::size_t>(p.SolucaoAtual) > p.Ordenadas.size())
-        return nullptr;
-    const SolutionRow& s = p.Ordenadas[static_cast<std::size_t>(p.SolucaoAtual) - 1];
-    const engine::ColumnInput& in = p.Entrada;
-    const bool sameBars = in.barsOnWidthFace == s.nBase && in.barsOnDepthFace == s.nAltura;
-    const bool sameStirrup =
-        in.stirrupMode == engine::StirrupMode::Predefined && in.predefinedStirrup == static_cast<int>(s.IndiceEstribo);
-    // The candidate's d' went into the box as text and was read back.
-    const bool sameDLinha =
-        !in.dLinha.automatic && std::abs(in.dLinha.typed - s.dLinha) <= 1e-9 * std::max(1.0, std::abs(s.dLinha));
-    return sameBars && sameStirrup && sameDLinha ? &s : nullptr;
-}
-
 // ---- sections ----
 
 class Writer {
@@ -150,47 +116,40 @@ private:
 // put in by the arrangement the search chose, and what the cover correction made of
 // it. The window keeps d' as it stood before the calculation rewrote the box
 // (DLinhaDigitado, which a project file keeps as "d' digitado").
-std::string dLinhaNote(const Program& p, const engine::ColumnResult& r, const SolutionRow* fromSearch)
+std::string dLinhaNote(const app::CalculationRecord& rec, const engine::ColumnResult& r, const SolutionRow* fromSearch)
 {
     std::string note;
     if (fromSearch)
-        note = "o da solução nº " + Str(p.SolucaoAtual)
+        note = "o da solução nº " + Str(rec.solutionShown)
                + " da busca da melhor solução, que o achou pelo cobrimento e o pôs na caixa d′";
-    else if (p.Entrada.dLinha.automatic)
-        note = withoutAccessKey(p.Form1.Check3.Caption) + ": achado pelo cobrimento, a partir de 3 cm";
-    else if (p.DLinhaDigitado && trimmed(*p.DLinhaDigitado).empty())
+    else if (rec.project.column.dLinha.automatic)
+        note = rec.project.words.dLinhaFromCover + ": achado pelo cobrimento, a partir de 3 cm";
+    else if (const auto& typed = rec.project.dLinhaAsTyped; typed && trimmed(*typed).empty())
         note = "caixa d′ vazia (0 cm)";
     else
-        note = "digitado: " + (p.DLinhaDigitado ? trimmed(*p.DLinhaDigitado) : Str(p.Entrada.dLinha.typed)) + " cm";
+        note = "digitado: " + (typed ? trimmed(*typed) : Str(rec.project.column.dLinha.typed)) + " cm";
     if (r.dLinhaText)
         note += "; reescrito pela correção do cobrimento para " + trimmed(*r.dLinhaText) + " cm";
     return note;
 }
 
-// The case the column was designed for: with several, the governing one.
-const ResultadoDoCaso* governingCase(const Program& p)
-{
-    if (p.ResultadosDosCasos.size() < 2)
-        return nullptr;
-    for (const auto& c : p.ResultadosDosCasos)
-        if (c.governa)
-            return &c;
-    return nullptr;
-}
+Unit forceUnit(const app::CalculationRecord& rec) { return unitOf(rec.project.forceUnit, "kN", kKgfPerKn); }
+Unit momentUnit(const app::CalculationRecord& rec) { return unitOf(rec.project.momentUnit, "kN·m", kKgfCmPerKnM); }
 
-void inputSection(const Program& p, const engine::ColumnResult& r, const SolutionRow* fromSearch, Section& s)
+void inputSection(const app::CalculationRecord& rec, const engine::ColumnResult& r, const SolutionRow* fromSearch,
+                  Section& s)
 {
-    const engine::ColumnInput& in = p.Entrada;
-    const Unit force = unitOf(p.Form1.Combo4.Text, "kN", kKgfPerKn);
-    const Unit moment = unitOf(p.Form1.Combo5.Text, "kN·m", kKgfCmPerKnM);
+    const engine::ColumnInput& in = rec.project.column;
+    const Unit force = forceUnit(rec);
+    const Unit moment = momentUnit(rec);
     const int total =
         r.designed ? r.design.totalBars : static_cast<int>(2 * (in.barsOnWidthFace + in.barsOnDepthFace) - 4);
     const double dLinha = r.designed ? r.design.dLinha : in.dLinha.typed;
     // The forces the design was made for, so that ν and μ follow from what is printed.
-    const ResultadoDoCaso* governing = governingCase(p);
+    const CaseOutcome* governing = rec.governingCase();
     const double nd = governing ? governing->Nd : in.Nd;
     const double md = governing ? governing->Md : in.Md;
-    const std::string of = governing ? "do caso determinante \"" + governing->nome + "\", para as quais o pilar foi "
+    const std::string of = governing ? "do caso determinante \"" + governing->name + "\", para as quais o pilar foi "
                                                                                     "dimensionado"
                                      : std::string();
 
@@ -200,7 +159,7 @@ void inputSection(const Program& p, const engine::ColumnResult& r, const Solutio
         .line("Barras por face", Str(in.barsOnWidthFace) + " nas faces de largura b, " + Str(in.barsOnDepthFace)
                                      + " nas faces de altura h",
               "", Str(total) + " barras ao todo")
-        .line("d′ (da face ao centro da barra)", fixed(dLinha, 3), "cm", dLinhaNote(p, r, fromSearch))
+        .line("d′ (da face ao centro da barra)", fixed(dLinha, 3), "cm", dLinhaNote(rec, r, fromSearch))
         .line("Nd", forceText(nd, force, true), "", of)
         .line("Md", momentText(md, moment, true), "", of);
     if (r.designed) {
@@ -224,9 +183,8 @@ void inputSection(const Program& p, const engine::ColumnResult& r, const Solutio
         .line("Es", mpa(a.Es, 0), "MPa")
         .line("εyd", fixed(a.epsYd, 3), "‰");
 
-    const auto& f = p.Form1;
-    const std::string tolerance = in.deltaC == 1     ? withoutAccessKey(f.Option1.Caption)
-                                  : in.deltaC == 0.5 ? withoutAccessKey(f.Option2.Caption)
+    const std::string tolerance = in.deltaC == 1     ? rec.project.words.tolerance10
+                                  : in.deltaC == 0.5 ? rec.project.words.tolerance5
                                                      : std::string();
     // Left empty in "Outros valores", the aggregate counts as 0: the cover and spacing
     // rules that depend on it then give way to the bar's, and the report says why.
@@ -235,7 +193,8 @@ void inputSection(const Program& p, const engine::ColumnResult& r, const Solutio
     else
         w.line("Diâmetro máximo do agregado graúdo", "não informado", "",
                "as regras de cobrimento e espaçamento que dependem dele não se aplicam");
-    w.line("Classe de agressividade ambiental", lists::agressividade.at(static_cast<std::size_t>(in.exposure) - 1))
+    static constexpr std::array<const char*, 4> kExposure{"I", "II", "III", "IV"};
+    w.line("Classe de agressividade ambiental", kExposure.at(static_cast<std::size_t>(in.exposure) - 1))
         .line("Tolerância de execução do cobrimento Δc", Str(in.deltaC), "cm", tolerance)
         .line("Correção do cobrimento", in.correctCoverWithoutAsking ? "sem perguntar" : "perguntando a cada caso")
         .line("Precisão", Str(in.precision))
@@ -243,36 +202,18 @@ void inputSection(const Program& p, const engine::ColumnResult& r, const Solutio
         .line("Maior bitola de estribo permitida", barLabel(static_cast<int>(in.maxStirrupIndex)));
 }
 
-// The input as the window's boxes hold it, for a calculation that stopped while
+// The input as the window's boxes held it, for a calculation that stopped while
 // reading them: nothing else of it exists.
-void typedInputSection(const Program& p, Section& s)
+void typedInputSection(const app::CalculationRecord& rec, Section& s)
 {
-    const auto& f = p.Form1;
     Writer w(s);
     // A box left empty says so, rather than leave its unit alone.
-    const auto box = [&w](const char* label, const std::string& text, const std::string& unit = {}) {
-        if (text.empty())
-            w.line(label, "(vazia)");
+    for (const auto& box : rec.project.asTyped) {
+        if (box.text.empty())
+            w.line(box.label, "(vazia)");
         else
-            w.line(label, text, unit);
-    };
-    box("Base b", f.Text1.Text, "cm");
-    box("Altura h", f.Text2.Text, "cm");
-    box("Comprimento", f.Text23.Text, "cm");
-    box("Barras nas faces de largura b", f.Text4.Text);
-    box("Barras nas faces de altura h", f.Text5.Text);
-    if (f.Check3.ticked())
-        w.line("d′", withoutAccessKey(f.Check3.Caption));
-    else
-        box("d′", f.Text3.Text, "cm");
-    box("Nd", f.Text16.Text, f.Combo4.Text);
-    box("Md", f.Text17.Text, f.Combo5.Text);
-    box("fck", f.Text18.Text, f.Combo6.Text);
-    box("Es", f.Text20.Text, f.Combo7.Text);
-    box("γc", f.Text21.Text);
-    box("γs", f.Text22.Text);
-    box("Aço", f.Combo1.Text);
-    box("Classe de agressividade ambiental", f.Combo2.Text);
+            w.line(box.label, box.text, box.unit);
+    }
 }
 
 std::string zoneText(engine::Zone z)
@@ -282,7 +223,7 @@ std::string zoneText(engine::Zone z)
     return Str(static_cast<int>(z)) + " (" + engine::zoneLetter(z) + ")";
 }
 
-void designSection(const Program& p, const engine::ColumnResult& r, Section& s)
+void designSection(const app::CalculationRecord& rec, const engine::ColumnResult& r, Section& s)
 {
     Writer w(s);
     if (!r.designed) {
@@ -292,11 +233,11 @@ void designSection(const Program& p, const engine::ColumnResult& r, Section& s)
         return;
     }
     const engine::DesignResult& d = r.design;
-    const double h = p.Entrada.depth;
+    const double h = rec.project.column.depth;
     std::string compat = "As,compat: sem verificação";
-    if (p.Verificacao)
-        compat = p.Verificacao->asCompat
-                     ? "As,compat = " + fixed(*p.Verificacao->asCompat, 2) + " cm², por compatibilidade de deformações"
+    if (const auto& v = rec.verification)
+        compat = v->asCompat
+                     ? "As,compat = " + fixed(*v->asCompat, 2) + " cm², por compatibilidade de deformações"
                      : "As,compat: nenhuma área de aço resiste aos esforços";
     w.line("ν = γn·Nd / (b·h·σcd)", fixed(d.nu, 4))
         .line("μ = γn·Md / (b·h²·σcd)", fixed(d.mu, 4))
@@ -317,35 +258,35 @@ void designSection(const Program& p, const engine::ColumnResult& r, Section& s)
 }
 
 // How the stirrup was chosen, in the words of the window's options.
-std::string stirrupChoice(const Program& p, const engine::ColumnResult& r)
+std::string stirrupChoice(const app::CalculationRecord& rec, const engine::ColumnResult& r)
 {
-    const engine::ColumnInput& in = p.Entrada;
-    const auto& f = p.Form1;
+    const engine::ColumnInput& in = rec.project.column;
+    const app::OptionWords& words = rec.project.words;
     std::string how;
     switch (in.stirrupMode) {
     case engine::StirrupMode::Predefined:
-        how = withoutAccessKey(f.Option3.Caption) + " " + barLabel(in.predefinedStirrup);
+        how = words.stirrupPredefined + " " + barLabel(in.predefinedStirrup);
         // Told once, though every repeated pass tells it again.
         if (std::any_of(r.checks.begin(), r.checks.end(),
                         [](const engine::Check& c) { return c.id == engine::CheckId::PredefinedStirrupTooThin; }))
             how += ", abaixo do mínimo: adotado o mínimo";
         break;
     case engine::StirrupMode::Economic:
-        how = withoutAccessKey(f.Option5.Caption);
+        how = words.stirrupEconomic;
         break;
     case engine::StirrupMode::Manual:
-        how = withoutAccessKey(f.Option6.Caption);
-        for (const auto& m : p.MensagensDoCalculo)
+        how = words.stirrupManual;
+        for (const auto& m : rec.transcript)
             if (m.kind == DialogRecord::Kind::Stirrup)
                 how += ": " + m.respostaTexto;
         break;
     }
     if (in.stirrupsOfBarSteel)
-        how += "; " + withoutAccessKey(f.Check5.Caption);
+        how += "; " + words.stirrupsOfBarSteel;
     return how;
 }
 
-void detailSection(const Program& p, const engine::ColumnResult& r, Section& s)
+void detailSection(const app::CalculationRecord& rec, const engine::ColumnResult& r, Section& s)
 {
     Writer w(s);
     if (!r.detailed) {
@@ -354,8 +295,8 @@ void detailSection(const Program& p, const engine::ColumnResult& r, Section& s)
                           : "A seção não foi detalhada.");
         return;
     }
-    const engine::MethodState& m = p.metodo;
-    const engine::ColumnInput& in = p.Entrada;
+    const engine::MethodState& m = rec.method;
+    const engine::ColumnInput& in = rec.project.column;
     if (r.bar)
         w.line("Barras longitudinais", Str(r.design.totalBars) + " φ " + barLabel(r.bar->index));
     w.line("As,ef (efetiva)", fixed(r.bar ? r.bar->providedArea : 0, 2), "cm²")
@@ -374,7 +315,7 @@ void detailSection(const Program& p, const engine::ColumnResult& r, Section& s)
               "", "máximo " + fixed(r.spacing.maximumAxis, 2) + " cm (" + trimmed(m.TextoLimite) + ")")
         .line("Cobrimento nominal", fixed(r.cover.nominal, 2), "cm")
         .line("Cobrimento efetivo", fixed(r.cover.effective, 2), "cm")
-        .line("Estribo", r.stirrup.text, "", stirrupChoice(p, r))
+        .line("Estribo", r.stirrup.text, "", stirrupChoice(rec, r))
         .line("Diâmetro mínimo do estribo", fixed(r.stirrup.minimumDiameter * 10, 1), "mm")
         .line("Dimensões internas do estribo",
               fixed(r.cover.stirrupInnerWidth, 2) + " × " + fixed(r.cover.stirrupInnerDepth, 2), "cm",
@@ -402,10 +343,10 @@ bool onlyTells(const std::optional<engine::ColumnResult>& r, const std::string& 
     return false;
 }
 
-std::vector<Message> messagesOf(const Program& p, bool runFailed)
+std::vector<Message> messagesOf(const app::CalculationRecord& rec, bool runFailed)
 {
     std::vector<Message> out;
-    for (const DialogRecord& d : p.MensagensDoCalculo) {
+    for (const DialogRecord& d : rec.transcript) {
         Message m;
         m.window = d.janela;
         m.text = d.mensagem;
@@ -413,7 +354,7 @@ std::vector<Message> messagesOf(const Program& p, bool runFailed)
         switch (d.kind) {
         case DialogRecord::Kind::Error:
             m.kind = Message::Kind::Error;
-            m.failed = runFailed && !onlyTells(p.Resultado, d.mensagem);
+            m.failed = runFailed && !onlyTells(rec.result, d.mensagem);
             break;
         case DialogRecord::Kind::Cover:
             m.kind = Message::Kind::Question;
@@ -422,7 +363,10 @@ std::vector<Message> messagesOf(const Program& p, bool runFailed)
             break;
         case DialogRecord::Kind::Stirrup:
             m.kind = Message::Kind::Question;
-            m.options = d.opcoes;
+            // An option the dialog did not use is empty: the page lists those it showed.
+            for (const auto& o : d.opcoes)
+                if (!o.empty())
+                    m.options.push_back(o);
             m.answer = d.respostaTexto;
             break;
         case DialogRecord::Kind::Notice:
@@ -437,16 +381,16 @@ std::vector<Message> messagesOf(const Program& p, bool runFailed)
 
 // ---- the check by strain compatibility ----
 
-void verificationSection(const Program& p, ReportData& out)
+void verificationSection(const app::CalculationRecord& rec, ReportData& out)
 {
     Writer w(out.verification);
-    if (!p.Verificacao) {
+    if (!rec.verification) {
         w.note("Sem verificação por compatibilidade de deformações: a seção não foi detalhada.");
         return;
     }
-    const engine::Verification& v = *p.Verificacao;
-    const Unit force = unitOf(p.Form1.Combo4.Text, "kN", kKgfPerKn);
-    const Unit moment = unitOf(p.Form1.Combo5.Text, "kN·m", kKgfCmPerKnM);
+    const engine::Verification& v = *rec.verification;
+    const Unit force = forceUnit(rec);
+    const Unit moment = momentUnit(rec);
     const bool finite = std::isfinite(v.utilisation);
     w.line("N_Sd = γn·Nd", forceText(v.nSd, force))
         .line("M_Sd = γn·Md", momentText(v.mSd, moment))
@@ -468,13 +412,13 @@ void verificationSection(const Program& p, ReportData& out)
         d.curve.emplace_back(n / force.factor, m / moment.factor);
     d.nSd = v.nSd / force.factor;
     d.mSd = v.mSd / moment.factor;
-    if (p.ResultadosDosCasos.empty()) {
+    if (rec.cases.empty()) {
         d.cases.push_back({"Sd", d.nSd, d.mSd, v.utilisation, true});
     } else {
         // Every load case on the governing case's section, γn as the design took it.
-        const double gn = p.Resultado ? p.Resultado->design.gammaN : 1;
-        for (const auto& c : p.ResultadosDosCasos)
-            d.cases.push_back({c.nome, gn * c.Nd / force.factor, gn * c.Md / moment.factor, c.utilizacao, c.governa});
+        const double gn = rec.result ? rec.result->design.gammaN : 1;
+        for (const auto& c : rec.cases)
+            d.cases.push_back({c.name, gn * c.Nd / force.factor, gn * c.Md / moment.factor, c.utilisation, c.governing});
     }
     if (v.mRd)
         d.mRd = *v.mRd / moment.factor;
@@ -484,26 +428,26 @@ void verificationSection(const Program& p, ReportData& out)
 
 // ---- the load cases ----
 
-void casesList(const Program& p, ReportData& out)
+void casesList(const app::CalculationRecord& rec, ReportData& out)
 {
-    if (p.ResultadosDosCasos.size() < 2)
+    if (rec.cases.size() < 2)
         return;
-    const Unit force = unitOf(p.Form1.Combo4.Text, "kN", kKgfPerKn);
-    const Unit moment = unitOf(p.Form1.Combo5.Text, "kN·m", kKgfCmPerKnM);
-    for (const auto& c : p.ResultadosDosCasos) {
+    const Unit force = forceUnit(rec);
+    const Unit moment = momentUnit(rec);
+    for (const auto& c : rec.cases) {
         CaseLine l;
-        l.name = c.nome;
+        l.name = c.name;
         l.nd = forceText(c.Nd, force, true);
         l.md = momentText(c.Md, moment, true);
-        l.zone = zoneText(c.zona);
+        l.zone = zoneText(c.zone);
         l.asNec = fixed(c.asNec, 2);
-        l.utilisation = std::isnan(c.utilizacao) ? std::string("não verificada")
-                        : std::isfinite(c.utilizacao) ? fixed(100 * c.utilizacao, 1) + " %"
-                                                      : std::string("sem limite");
-        l.carried = c.utilizacao <= 1;
-        l.governing = c.governa;
-        if (c.governa)
-            out.governingCase = c.nome;
+        l.utilisation = std::isnan(c.utilisation) ? std::string("não verificada")
+                        : std::isfinite(c.utilisation) ? fixed(100 * c.utilisation, 1) + " %"
+                                                       : std::string("sem limite");
+        l.carried = c.utilisation <= 1;
+        l.governing = c.governing;
+        if (c.governing)
+            out.governingCase = c.name;
         out.cases.push_back(std::move(l));
     }
     out.casesNotes.push_back("Cada caso dimensionado pelo método das zonas de solicitação desde o início; o que exige "
@@ -560,21 +504,21 @@ Quantities steelQuantities(const engine::ColumnInput& in, const engine::ColumnRe
 
 namespace {
 
-void solutionsList(const Program& p, const SolutionRow* shown, ReportData& out)
+void solutionsList(const app::CalculationRecord& rec, const SolutionRow* shown, ReportData& out)
 {
-    out.solutionsFound = p.Ordenadas.size();
-    if (p.Ordenadas.empty())
+    out.solutionsFound = rec.solutions.size();
+    if (rec.solutions.empty())
         return;
     if (!shown) {
-        out.solutionsNote = "A lista da última busca (" + Str(static_cast<double>(p.Ordenadas.size()))
+        out.solutionsNote = "A lista da última busca (" + Str(static_cast<double>(rec.solutions.size()))
                             + " soluções) não é a deste cálculo: o pilar foi calculado com outro arranjo depois dela.";
         return;
     }
     // A weight no arrangement reaches marks a row that holds no solution, as in "Soluções".
     constexpr double kNoSolution = 9e35;
-    const std::size_t n = std::min(p.Ordenadas.size(), kSolutionsListed);
+    const std::size_t n = std::min(rec.solutions.size(), kSolutionsListed);
     for (std::size_t i = 0; i < n; ++i) {
-        const SolutionRow& s = p.Ordenadas[i];
+        const SolutionRow& s = rec.solutions[i];
         SolutionLine l;
         l.position = static_cast<int>(i) + 1;
         l.shown = &s == shown;
@@ -593,46 +537,46 @@ void solutionsList(const Program& p, const SolutionRow* shown, ReportData& out)
 
 } // namespace
 
-bool buildReport(const Program& p, const ReportStamp& stamp, ReportData& out, std::string& error)
+bool buildReport(const app::CalculationRecord& rec, const ReportStamp& stamp, ReportData& out, std::string& error)
 {
-    const std::string& verdict = p.Form1.Text30.Text;
-    if (verdict.empty()) {
+    if (!rec.calculated()) {
         error = "não há cálculo para o memorial: calcule o pilar (\"Calcula\") antes de gerá-lo";
         return false;
     }
     ReportData r;
-    r.project = projectName(p.NomeArquivo);
-    r.heading = {p.Obra.obra, p.Obra.cliente, p.Obra.pilar, p.Obra.engenheiro, p.Obra.revisao};
+    r.project = projectName(rec.project.file);
+    const app::WorkHeading& h = rec.project.heading;
+    r.heading = {h.work, h.client, h.column, h.engineer, h.revision};
     r.stamp = stamp;
-    r.verdict = verdict;
+    r.verdict = rec.verdict;
     r.sections = {{"Dados", {}, {}}, {"Dimensionamento: método das zonas de solicitação", {}, {}},
                   {"Detalhamento", {}, {}}};
-    if (p.Resultado) {
-        const SolutionRow* shown = solutionShown(p);
-        inputSection(p, *p.Resultado, shown, r.sections[0]);
-        designSection(p, *p.Resultado, r.sections[1]);
-        detailSection(p, *p.Resultado, r.sections[2]);
-        solutionsList(p, shown, r);
-        casesList(p, r);
-        r.quantities = steelQuantities(p.Entrada, *p.Resultado);
+    if (rec.result) {
+        const SolutionRow* shown = rec.solutionOnShow();
+        inputSection(rec, *rec.result, shown, r.sections[0]);
+        designSection(rec, *rec.result, r.sections[1]);
+        detailSection(rec, *rec.result, r.sections[2]);
+        solutionsList(rec, shown, r);
+        casesList(rec, r);
+        r.quantities = steelQuantities(rec.project.column, *rec.result);
         if (r.quantities->rows.empty())
             r.quantities.reset();
     } else {
         // The calculation stopped while reading the window (or a search found nothing):
         // there is only what the boxes hold and the messages.
         r.sections[0].title = "Dados (como estão na janela)";
-        typedInputSection(p, r.sections[0]);
+        typedInputSection(rec, r.sections[0]);
         r.sections[0].notes.push_back("O cálculo parou antes do dimensionamento (ver as mensagens): nenhum valor foi "
                                       "calculado.");
         r.sections[1].notes.push_back("O pilar não foi dimensionado.");
         r.sections[2].notes.push_back("A seção não foi detalhada.");
     }
-    r.messages = messagesOf(p, r.failed());
+    r.messages = messagesOf(rec, r.failed());
     r.verification.title = "Verificação por compatibilidade de deformações";
-    verificationSection(p, r);
-    addNorma2014(p, r);
-    if (p.Desenho)
-        r.drawing = p.Desenho;
+    verificationSection(rec, r);
+    addNorma2014(rec, r);
+    if (rec.drawing)
+        r.drawing = rec.drawing;
     else
         r.drawingMissing = "Sem desenho: a seção não foi detalhada.";
     out = std::move(r);

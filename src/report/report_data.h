@@ -1,12 +1,12 @@
 #pragma once
-// The calculation report ("memorial de cálculo") of the window's last calculation,
+// The calculation report ("memorial de cálculo") of one calculation's record,
 // as plain data, before any page is laid out: titled sections of lines "label: value
 // unit", the load cases with the governing one, the steel's quantities, every message
 // of the calculation in order with its clause and the answer given, the verdict of the "Erros" box, the interaction diagram in the engineer's
 // units, the section's drawing and, after a search, its lightest solutions.
 //
-//   buildReport(program, stamp, report, error)   false, with the reason, when the
-//                                                window holds no calculation to report
+//   buildReport(record, stamp, report, error)    false, with the reason, when the
+//                                                record holds no calculation to report
 //
 // The date and time and the program's version come in as a stamp, so that two
 // reports of the same project differ in nothing else. No Qt here: the PDF is
@@ -22,9 +22,7 @@
 #include <utility>
 #include <vector>
 
-namespace pilarix {
-class Program;
-}
+#include "app/calculation_record.h"
 
 namespace pilarix::report {
 
@@ -162,7 +160,7 @@ struct ReportData {
 
 inline constexpr std::size_t kSolutionsListed = 40;
 
-bool buildReport(const Program& program, const ReportStamp& stamp, ReportData& report, std::string& error);
+bool buildReport(const app::CalculationRecord& record, const ReportStamp& stamp, ReportData& report, std::string& error);
 
 // The scale 1:n at which a drawing of width × height cm fits a room of roomWidth ×
 // roomHeight cm on paper: the smallest n of the usual scales (1, 2, 2.5, 5, 10, 20,
@@ -172,8 +170,7 @@ double drawingScale(double width, double height, double roomWidth, double roomHe
 // "1:10", "1:2.5".
 std::string scaleText(double n);
 
-// A caption without its access-key mark, as the window shows it: "&1 - Ignorar" is
-// "1 - Ignorar", "&&" an ampersand.
-std::string withoutAccessKey(std::string_view caption);
+// A caption without its access-key mark (app/calculation_record.h).
+using app::withoutAccessKey;
 
 } // namespace pilarix::report

@@ -1,7 +1,7 @@
 #include "report/report_numbers.h"
 
 #include "base/number_text.h"
-#include "window/units.h"
+#include "app/units.h"
 
 #include <algorithm>
 #include <cmath>
@@ -30,7 +30,7 @@ std::string significant(double x, int least)
 
 Unit unitOf(const std::string& name, const char* fallbackName, double fallbackFactor)
 {
-    if (const auto f = fatorDaUnidade(name))
+    if (const auto f = unitFactor(name))
         return {name, *f};
     return {fallbackName, fallbackFactor};
 }

@@ -130,23 +130,23 @@ void CasesDialog::carrega(bool desatualizados)
     if (r.size() >= 2) {
         for (int i = 0; i < std::min(tabela_->rowCount(), static_cast<int>(r.size())); ++i) {
             const auto& c = r[static_cast<std::size_t>(i)];
-            tabela_->item(i, kZona)->setText(QString::number(static_cast<int>(c.zona)) + QStringLiteral(" (")
-                                              + QString::fromLatin1(engine::zoneLetter(c.zona)) + QStringLiteral(")"));
+            tabela_->item(i, kZona)->setText(QString::number(static_cast<int>(c.zone)) + QStringLiteral(" (")
+                                              + QString::fromLatin1(engine::zoneLetter(c.zone)) + QStringLiteral(")"));
             tabela_->item(i, kBetaX)->setText(qs(Format(c.betaX, "##0.000")));
             tabela_->item(i, kAsNec)->setText(qs(Format(c.asNec, "##0.00")));
-            tabela_->item(i, kUtilizacao)->setText(utilisationText(c.utilizacao));
-            const bool falha = !(c.utilizacao <= 1);
+            tabela_->item(i, kUtilizacao)->setText(utilisationText(c.utilisation));
+            const bool falha = !(c.utilisation <= 1);
             for (int col = 0; col < kColunas; ++col) {
                 auto* item = tabela_->item(i, col);
                 QFont fonte = item->font();
-                fonte.setBold(c.governa);
+                fonte.setBold(c.governing);
                 item->setFont(fonte);
                 if (desatualizados_ && col >= kZona)
                     item->setForeground(QColor(150, 150, 150));
                 else if (falha)
                     item->setForeground(QColor(205, 30, 30));
             }
-            if (c.governa)
+            if (c.governing)
                 tabela_->item(i, kNome)->setToolTip(QStringLiteral("Caso determinante: o que pede mais aço"));
         }
     }

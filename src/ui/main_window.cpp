@@ -253,8 +253,11 @@ void MainWindow::montaDicas() { aplicaDicas(centralWidget(), bitolas_); }
 
 void MainWindow::copiaParaModelo() { formulario_->copiaParaModelo(); }
 
+void MainWindow::leRegistro() { registro_ = program_->registroDoCalculo(); }
+
 void MainWindow::atualiza()
 {
+    leRegistro();
     const bool antes = pintando_;
     pintando_ = true;
     const auto& f = program_->Form1;
@@ -283,8 +286,8 @@ void MainWindow::atualiza()
     // The canvas keeps its zoom while the drawing it shows stays the same.
     if (program_->VersaoDoDesenho != versaoDoDesenho_) {
         versaoDoDesenho_ = program_->VersaoDoDesenho;
-        if (program_->Desenho)
-            desenho_->setSection(*program_->Desenho);
+        if (registro_.drawing)
+            desenho_->setSection(*registro_.drawing);
         else
             desenho_->clearSection();
     }

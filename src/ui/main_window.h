@@ -173,6 +173,10 @@ private:
     std::unique_ptr<QtDialogs> dialogosProprios_;
     DialogPort* dialogos_;
     std::unique_ptr<Program> program_;
+    // The record of the calculation on show, which every panel reads; made afresh
+    // from the model whenever the window shows it (leRegistro).
+    app::CalculationRecord registro_;
+    void leRegistro();
 
     FormBinding* formulario_ = nullptr; // the widgets bound to the form model, both ways
     std::array<QLineEdit*, 8> bitolas_{};

@@ -61,13 +61,12 @@ void MainWindow::propoeGamaC(int indiceDaNorma)
 
 void MainWindow::mostra2014()
 {
-    const auto& p = *program_;
     if (norma2014_)
-        norma2014_->atualiza(p.Form1);
+        norma2014_->atualiza(program_->Form1);
     if (esbeltez_)
-        esbeltez_->mostra(p, desatualizado_);
+        esbeltez_->mostra(registro_, desatualizado_);
     if (diagramaMxMy_ && diagramaMxMy_->isVisible()) {
-        if (const auto c = report::momentContourOf(p))
+        if (const auto c = report::momentContourOf(registro_))
             diagramaMxMy_->mostra(*c);
         else
             diagramaMxMy_->limpa();

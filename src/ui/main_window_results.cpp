@@ -236,7 +236,8 @@ QWidget* MainWindow::montaBotoes()
 
 void MainWindow::mostraMensagens()
 {
-    const auto& lista = program_->MensagensDoCalculo;
+    leRegistro();
+    const auto& lista = registro_.transcript;
     QString texto;
     if (lista.empty()) {
         texto = program_->CalculosFeitos == 0 ? QStringLiteral("<p>Nenhum cálculo ainda.</p>")
@@ -262,10 +263,9 @@ void MainWindow::mostraMensagens()
 
 void MainWindow::mostraVerificacao()
 {
-    const auto& p = *program_;
-    const auto& v = p.Verificacao;
+    const auto& v = registro_.verification;
     // A failed design: its utilisation approves nothing, whatever its figure.
-    const bool erro = p.Form1.Text30.Text == "erro";
+    const bool erro = registro_.verdict == "erro";
     QPalette pal = utilizacao_->palette();
     QPalette palAviso = avisoVerificacao_->palette();
     QColor corAviso(205, 30, 30);
@@ -302,7 +302,7 @@ void MainWindow::mostraVerificacao()
     desenho_->setUnverified(erro && desenho_->hasSection()
                                 ? QStringLiteral("O cálculo deu erro: veja as mensagens.")
                                 : QString());
-    const QString caso = casoDeterminanteTexto(p);
+    const QString caso = casoDeterminanteTexto(registro_);
     casoDeterminante_->setText(caso);
     casoDeterminante_->setVisible(!caso.isEmpty());
     casoDeterminante_->setStyleSheet(desatualizado_ ? QStringLiteral("color: rgb(140, 140, 140);") : QString());

@@ -2,7 +2,7 @@
 
 #include "base/number_text.h"
 #include "render/interaction_painter.h"
-#include "window/units.h"
+#include "app/units.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -70,16 +70,16 @@ QLabel* Norma2014Results::valor(Linha linha, char direcao) const
     return valores_[static_cast<std::size_t>(linha)][direcao == 'b' ? 1 : 0];
 }
 
-void Norma2014Results::mostra(const Program& p, bool desatualizado)
+void Norma2014Results::mostra(const app::CalculationRecord& registro, bool desatualizado)
 {
     desatualizado_ = desatualizado;
-    const bool mostrar = p.norma2014() && p.Resultado2014.has_value();
+    const bool mostrar = registro.project.rules2014 && registro.result2014.has_value();
     setVisible(mostrar);
     if (!mostrar)
         return;
-    const engine::Column2014Result& r = *p.Resultado2014;
-    const double fm = fatorDaUnidade(p.Form1.Combo5.Text).value_or(1);
-    const QString unidade = qs(p.Form1.Combo5.Text);
+    const engine::Column2014Result& r = *registro.result2014;
+    const double fm = unitFactor(registro.project.momentUnit).value_or(1);
+    const QString unidade = qs(registro.project.momentUnit);
     rotulos_[M1dMin]->setText(QStringLiteral("M1d,mín (%1)").arg(unidade));
     rotulos_[M2d]->setText(QStringLiteral("M2d (%1)").arg(unidade));
     rotulos_[MdTot]->setText(QStringLiteral("Md,tot (%1)").arg(unidade));
@@ -116,7 +116,7 @@ void Norma2014Results::mostra(const Program& p, bool desatualizado)
         if (r.cases.size() > 1)
             resumo += QStringLiteral(", caso \"%1\"").arg(qs(g.loadCase.name));
         resumo += QStringLiteral("; γn = %1; %2.")
-                      .arg(numero(r.gammaN, "0.000"), p.Form1.SegundaOrdem.Text == "rigidez"
+                      .arg(numero(r.gammaN, "0.000"), registro.project.secondOrder == "rigidez"
                                                           ? QStringLiteral("rigidez κ")
                                                           : QStringLiteral("curvatura aproximada"));
         resumo_->setText(resumo);

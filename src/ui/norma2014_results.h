@@ -22,7 +22,7 @@ class Norma2014Results : public QGroupBox {
 public:
     explicit Norma2014Results(QWidget* parent = nullptr);
 
-    void mostra(const Program& program, bool desatualizado);
+    void mostra(const app::CalculationRecord& record, bool desatualizado);
 
     // The rows of the table, in order, each with the text of the direction h and b.
     enum Linha { Lambda, Lambda1, AlfaB, E1, M1dMin, M2d, MdTot, SegundaOrdem, As, kLinhas };

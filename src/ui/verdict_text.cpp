@@ -1,6 +1,6 @@
 #include "ui/verdict_text.h"
 
-#include "window/units.h"
+#include "app/units.h"
 
 namespace pilarix::ui {
 
@@ -9,39 +9,38 @@ QString qs(const std::string& s) { return QString::fromStdString(s); }
 } // namespace
 
 // The governing case, named where the results are not the main window's Nd and Md.
-QString casoDeterminanteTexto(const Program& p)
+QString casoDeterminanteTexto(const app::CalculationRecord& r)
 {
-    if (p.ResultadosDosCasos.size() < 2)
+    // The first case is the window's Nd and Md.
+    const CaseOutcome* c = r.governingCase();
+    if (!c)
         return {};
-    for (const auto& c : p.ResultadosDosCasos)
-        if (c.governa)
-            return c.nome == p.NomeDoCaso1
-                       ? QStringLiteral("Caso determinante: %1 (o Nd e o Md da janela)").arg(qs(c.nome))
-                       : QStringLiteral("Caso determinante: %1. O Nd e o Md da janela são do caso %2; os resultados, "
-                                        "do caso %1.")
-                             .arg(qs(c.nome), qs(p.NomeDoCaso1));
-    return {};
+    const std::string& primeiro = r.cases.front().name;
+    return c == &r.cases.front()
+               ? QStringLiteral("Caso determinante: %1 (o Nd e o Md da janela)").arg(qs(c->name))
+               : QStringLiteral("Caso determinante: %1. O Nd e o Md da janela são do caso %2; os resultados, "
+                                "do caso %1.")
+                     .arg(qs(c->name), qs(primeiro));
 }
 
 // The check of the detailed section in the units the user chose for Nd and Md.
-DiagramData dadosDoDiagrama(const Program& p)
+DiagramData dadosDoDiagrama(const app::CalculationRecord& r)
 {
     DiagramData d;
-    const auto& f = p.Form1;
-    d.forceUnit = qs(f.Combo4.Text);
-    d.momentUnit = qs(f.Combo5.Text);
-    const auto& v = *p.Verificacao;
-    const double fn = fatorDaUnidade(f.Combo4.Text).value_or(1);
-    const double fm = fatorDaUnidade(f.Combo5.Text).value_or(1);
+    d.forceUnit = qs(r.project.forceUnit);
+    d.momentUnit = qs(r.project.momentUnit);
+    const auto& v = *r.verification;
+    const double fn = unitFactor(r.project.forceUnit).value_or(1);
+    const double fm = unitFactor(r.project.momentUnit).value_or(1);
     for (const auto& [n, m] : v.curve)
         d.curve.emplace_back(m / fm, n / fn);
-    if (p.ResultadosDosCasos.empty()) {
+    if (r.cases.empty()) {
         d.points.push_back({v.nSd / fn, v.mSd / fm, QStringLiteral("Sd"), v.utilisation, true});
     } else {
         // Every load case on the governing case's section, γn as the design took it.
-        const double g = p.Resultado ? p.Resultado->design.gammaN : 1;
-        for (const auto& c : p.ResultadosDosCasos)
-            d.points.push_back({c.Nd * g / fn, c.Md * g / fm, qs(c.nome), c.utilizacao, c.governa});
+        const double g = r.result ? r.result->design.gammaN : 1;
+        for (const auto& c : r.cases)
+            d.points.push_back({c.Nd * g / fn, c.Md * g / fm, qs(c.name), c.utilisation, c.governing});
     }
     if (v.mRd)
         d.mRd = *v.mRd / fm;

@@ -143,7 +143,7 @@ void WindowDialogs::imprimeMemorial()
     if (nome.empty())
         return;
     std::string erro;
-    if (render::writeReport(*janela_.program_, nome, render::currentStamp(), erro))
+    if (render::writeReport(janela_.program_->registroDoCalculo(), nome, render::currentStamp(), erro))
         janela_.mostraNaBarra(QStringLiteral("Memorial de cálculo gravado em ") + qs(nome));
     else
         janela_.dialogos_->notice(erro);
@@ -197,13 +197,12 @@ void WindowDialogs::abreAjuda()
 
 void WindowDialogs::acompanha()
 {
-    const auto& p = *janela_.program_;
     const bool desatualizado = janela_.desatualizado_;
     if (casos_ && casos_->isVisible())
         casos_->carrega(desatualizado);
     if (diagrama_ && diagrama_->isVisible()) {
-        if (p.Verificacao)
-            diagrama_->mostra(dadosDoDiagrama(p));
+        if (janela_.registro_.verification)
+            diagrama_->mostra(dadosDoDiagrama(janela_.registro_));
         else
             diagrama_->limpa();
         diagrama_->setWindowTitle(desatualizado ? QStringLiteral("Diagrama de interação (desatualizado)")

@@ -4,7 +4,7 @@
 #include "window/program.h"
 
 #include "base/number_text.h"
-#include "window/units.h"
+#include "app/units.h"
 
 #include <cmath>
 
@@ -15,8 +15,8 @@ std::vector<engine::LoadCase> Program::casosDeCarga()
     std::vector<engine::LoadCase> casos{{NomeDoCaso1, Nd, Md}};
     // The factors of the units Ler02 read Nd and Md in; a unit the lists do not hold
     // reads as Ler02 read it.
-    const double fn = fatorDaUnidade(Form1.Combo4.Text).value_or(Nd != 0 ? Nd / Val(Form1.Text16.Text) : 1);
-    const double fm = fatorDaUnidade(Form1.Combo5.Text).value_or(Md != 0 ? Md / Val(Form1.Text17.Text) : 1);
+    const double fn = unitFactor(Form1.Combo4.Text).value_or(Nd != 0 ? Nd / Val(Form1.Text16.Text) : 1);
+    const double fm = unitFactor(Form1.Combo5.Text).value_or(Md != 0 ? Md / Val(Form1.Text17.Text) : 1);
     for (const auto& c : OutrosCasos)
         casos.push_back({c.nome, Val(c.nd) * fn, Val(c.md) * fm});
     return casos;

@@ -5,7 +5,7 @@
 #include "window/program.h"
 
 #include "base/number_text.h"
-#include "window/units.h"
+#include "app/units.h"
 
 namespace pilarix {
 
@@ -16,8 +16,8 @@ double lido(const std::string& texto) { return texto.empty() ? 0 : Val(texto); }
 
 std::vector<engine::Case2014> Program::casos2014()
 {
-    const double fn = fatorDaUnidade(Form1.Combo4.Text).value_or(Nd != 0 ? Nd / Val(Form1.Text16.Text) : 1);
-    const double fm = fatorDaUnidade(Form1.Combo5.Text).value_or(Md != 0 ? Md / Val(Form1.Text17.Text) : 1);
+    const double fn = unitFactor(Form1.Combo4.Text).value_or(Nd != 0 ? Nd / Val(Form1.Text16.Text) : 1);
+    const double fm = unitFactor(Form1.Combo5.Text).value_or(Md != 0 ? Md / Val(Form1.Text17.Text) : 1);
     std::vector<engine::Case2014> casos{{NomeDoCaso1, Nd, Md, lido(Form1.MdBase.Text) * fm, lido(Form1.MyTopo.Text) * fm,
                                          lido(Form1.MyBase.Text) * fm}};
     for (const auto& c : OutrosCasos)

@@ -5,7 +5,7 @@
 // what it showed and the answer it got.
 
 #include "window/dialog_port.h"
-#include "window/dialog_record.h"
+#include "app/dialog_record.h"
 
 #include <string>
 #include <vector>

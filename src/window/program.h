@@ -15,7 +15,8 @@
 #include "engine/column2014.h"
 #include "engine/verification.h"
 #include "window/dialog_port.h"
-#include "window/dialog_record.h"
+#include "app/calculation_record.h"
+#include "app/dialog_record.h"
 #include "window/forms.h"
 
 #include <cstdint>
@@ -24,39 +25,6 @@
 #include <vector>
 
 namespace pilarix {
-
-// What Ler02 reads from the window, in the program's internal units (cm, kgf,
-// kgf·cm, kgf/cm²), under the names the program gives them.
-struct WindowReading {
-    double Base = 0, Altura = 0, Comprimento = 0;
-    double nBase = 0;
-    std::int16_t nAltura = 0;
-    std::int16_t nMaxBase = 0;
-    double nMaxAltura = 0;
-    double Escala = 0;
-    int MargemDesenho = 0;
-    double OrigemX = 0, OrigemY = 0;
-    double DiamAgregado = 0;
-    double Nd = 0, Md = 0, Fck = 0, Es = 0, GamaC = 0, GamaS = 0;
-    double Precisao = 0;
-    int IndiceBitolaMax = 0;
-    float IndiceEstriboMax = 0;
-    std::string ErroEntrada;
-    // units
-    std::string UnidadeNome;
-    double FatorUnidade = 0;
-};
-
-// One arrangement kept by the best-solution search.
-struct SolutionRow {
-    double peso = 0;          // PesoLong of the candidate, kg: the ordering key
-    double nBase = 0;         // bars on each face of width b
-    double nAltura = 0;       // bars on each face of depth h
-    double IndiceEstribo = 0; // catalogue index of the stirrup, 1 to 4
-    double DiamEstribo = 0;   // stirrup diameter, cm
-    double dLinha = 0;        // the candidate's final d', cm, so that it recalculates exactly
-    double LambdaC1 = 0;      // λ of the first reference field in the candidate's last pass
-};
 
 // A load case beyond the first, as the cases table holds it: its forces as typed, in
 // the units of Nd and Md of the main window.
@@ -78,16 +46,6 @@ struct CasoDeCarga {
 // saved with the project after the 39 records ("Obra;...", files/project_file.cpp).
 struct DadosDaObra {
     std::string obra, cliente, pilar, engenheiro, revisao;
-};
-
-// What the calculation of several load cases found for each.
-struct ResultadoDoCaso {
-    std::string nome;
-    double Nd = 0, Md = 0;     // kgf, kgf·cm, before γn
-    engine::Zone zona = engine::Zone::None;
-    double betaX = 0, asNec = 0;
-    double utilizacao = 0;     // on the detailed section; NaN where it could not be verified
-    bool governa = false;
 };
 
 class Program : public WindowReading, public Forms {
@@ -207,7 +165,7 @@ public:
     std::string DLinhaReescrito;
     void reescreveDLinha(const std::string& texto);
     // Every case of the last calculation with several (empty with one case).
-    std::vector<ResultadoDoCaso> ResultadosDosCasos;
+    std::vector<CaseOutcome> ResultadosDosCasos;
     // The cases in the program's units, the first from Nd and Md as Ler02 read them.
     std::vector<engine::LoadCase> casosDeCarga();
 
@@ -228,6 +186,11 @@ public:
     double dLinhaEstimada = 0;
     void Form5Calcula();
     void Form5Aceita();
+
+    // ---- the record of the calculation on show (window/record.cpp) ----
+    // What every front reads: the report, the JSON, the text of the command line,
+    // the window's panels and the drawing.
+    app::CalculationRecord registroDoCalculo() const;
 
     // ---- shared machinery ----
     // Puts MensagemErro and ItemNorma into "Mensagem de erro" and shows it.

@@ -6,6 +6,7 @@
 #include "base/number_text.h"
 #include "engine/catalogue.h"
 #include "engine/checks.h"
+#include "app/units.h"
 
 #include <array>
 #include <utility>
@@ -122,6 +123,14 @@ void Program::Ler02()
         erro(engine::checks::gammaCZero());
     else if (GamaS == 0)
         erro(engine::checks::gammaSZero());
+}
+
+void Program::Unidades30()
+{
+    // Exact, case-sensitive names. An unknown name (only a hand-edited project file
+    // can bring one) leaves the factor of the previous quantity in place.
+    if (const auto fator = unitFactor(UnidadeNome))
+        FatorUnidade = *fator;
 }
 
 void Program::UltimoDiametroLongitudunal()

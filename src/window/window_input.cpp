@@ -2,7 +2,7 @@
 
 #include "base/calc_error.h"
 #include "base/number_text.h"
-#include "window/units.h"
+#include "app/units.h"
 
 #include <algorithm>
 #include <array>
@@ -231,7 +231,7 @@ struct Faixa {
 std::optional<std::string> foraDaFaixa(const Program& p)
 {
     const auto& f = p.Form1;
-    auto fator = [](const std::string& unidade) { return fatorDaUnidade(unidade).value_or(1); };
+    auto fator = [](const std::string& unidade) { return unitFactor(unidade).value_or(1); };
     const Faixa faixas[] = {
         {&f.Text1, "Base (cm)", nullptr, 0, 2000, false, "maior que 0 e no máximo 2000 cm"},
         {&f.Text2, "Altura (cm)", nullptr, 0, 2000, false, "maior que 0 e no máximo 2000 cm"},

@@ -40,11 +40,19 @@ int PerguntasDaJanela::chooseStirrup(const engine::StirrupQuestion& q)
             break;
         }
     }
+    // The record keeps the five options as the dialog had them, an unused one empty,
+    // so that the answer is the place of the option selected; the text is that of
+    // the option taken.
+    int selecionada = escolhida;
+    for (std::size_t i = 0; i < f.Option1.size(); ++i)
+        if (f.Option1[i].Value) {
+            selecionada = static_cast<int>(i);
+            break;
+        }
     DialogRecord r{DialogRecord::Kind::Stirrup, f.Caption, f.Label1.Caption + f.Label2.Caption, {}, {}, {},
-                   escolhida, f.Option1[static_cast<std::size_t>(escolhida)].Caption};
+                   selecionada, f.Option1[static_cast<std::size_t>(escolhida)].Caption};
     for (const auto& o : f.Option1)
-        if (!o.Caption.empty())
-            r.opcoes.push_back(o.Caption);
+        r.opcoes.push_back(o.Caption);
     p_.MensagensDoCalculo.push_back(std::move(r));
     // The dialog is cleared for its next use.
     for (std::size_t i = 0; i < 4; ++i) {

@@ -106,8 +106,11 @@ std::string runSession(const std::string& payload)
                 throw std::runtime_error("bad assignment in the golden corpus: " + parts[i] + " " + error);
         }
         act(p, parts[0]);
-        nlohmann::ordered_json doc = documentJson(p, dialogs, true);
+        nlohmann::ordered_json doc = documentJson(p.registroDoCalculo(), true);
         doc.erase("estado");
+        // In a session a step shows the dialogs it opened, not those of the
+        // calculation on show from an earlier step.
+        doc["mensagens"] = mensagensJson(dialogs.records);
         shown += doc.dump(1) + "\n";
         dialogs.records.clear();
     }

@@ -45,7 +45,7 @@ struct Column {
     {
         report::ReportData r;
         std::string error;
-        EXPECT_TRUE(report::buildReport(program, kStamp, r, error)) << error;
+        EXPECT_TRUE(report::buildReport(program.registroDoCalculo(), kStamp, r, error)) << error;
         return r;
     }
     PolicyDialogs dialogs;

@@ -39,7 +39,7 @@ struct Column {
     {
         report::ReportData r;
         std::string error;
-        EXPECT_TRUE(report::buildReport(program, kStamp, r, error)) << error;
+        EXPECT_TRUE(report::buildReport(program.registroDoCalculo(), kStamp, r, error)) << error;
         return r;
     }
 
@@ -77,7 +77,7 @@ TEST(ReportData, RefusedBeforeAnyCalculation)
     Program program(dialogs);
     report::ReportData r;
     std::string error;
-    EXPECT_FALSE(report::buildReport(program, kStamp, r, error));
+    EXPECT_FALSE(report::buildReport(program.registroDoCalculo(), kStamp, r, error));
     EXPECT_TRUE(contains(error, "Calcula")) << error;
 }
 
@@ -265,7 +265,7 @@ TEST(ReportData, SearchListsItsLightestSolutionsWhileTheyAreTheWindows)
     ASSERT_GT(p.Ordenadas.size(), report::kSolutionsListed);
     report::ReportData r;
     std::string error;
-    ASSERT_TRUE(report::buildReport(p, kStamp, r, error)) << error;
+    ASSERT_TRUE(report::buildReport(p.registroDoCalculo(), kStamp, r, error)) << error;
     ASSERT_EQ(r.solutions.size(), report::kSolutionsListed);
     EXPECT_EQ(r.solutionsFound, p.Ordenadas.size());
     EXPECT_TRUE(r.solutions.front().shown);
@@ -281,7 +281,7 @@ TEST(ReportData, SearchListsItsLightestSolutionsWhileTheyAreTheWindows)
 
     // One more bar on the depth faces is another arrangement: the list is not its own.
     p.Command4_Click();
-    ASSERT_TRUE(report::buildReport(p, kStamp, r, error)) << error;
+    ASSERT_TRUE(report::buildReport(p.registroDoCalculo(), kStamp, r, error)) << error;
     EXPECT_TRUE(r.solutions.empty());
     EXPECT_TRUE(contains(r.solutionsNote, "não é a deste cálculo")) << r.solutionsNote;
 }
@@ -342,7 +342,7 @@ struct Cases {
     {
         report::ReportData r;
         std::string error;
-        EXPECT_TRUE(report::buildReport(program, kStamp, r, error)) << error;
+        EXPECT_TRUE(report::buildReport(program.registroDoCalculo(), kStamp, r, error)) << error;
         return r;
     }
     PolicyDialogs dialogs;
@@ -383,8 +383,8 @@ TEST(ReportData, TwoCasesNameTheGoverningOneAndTheDataAreItsForces)
         int governing = 0;
         for (std::size_t i = 0; i < r.cases.size(); ++i) {
             const auto& k = c.program.ResultadosDosCasos[i];
-            EXPECT_EQ(r.cases[i].name, k.nome);
-            EXPECT_EQ(r.cases[i].governing, k.governa);
+            EXPECT_EQ(r.cases[i].name, k.name);
+            EXPECT_EQ(r.cases[i].governing, k.governing);
             EXPECT_EQ(r.cases[i].asNec, Format(k.asNec, "##0.00"));
             governing += r.cases[i].governing;
         }

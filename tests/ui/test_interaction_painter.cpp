@@ -152,7 +152,7 @@ TEST(InteractionPainter, TheWindowsDiagramAndTheReportsAreOneChartPaintedByOneCo
 
     report::ReportData r;
     std::string error;
-    ASSERT_TRUE(report::buildReport(p, {"01/02/2025 08:30", "0.1"}, r, error)) << error;
+    ASSERT_TRUE(report::buildReport(p.registroDoCalculo(), {"01/02/2025 08:30", "0.1"}, r, error)) << error;
     ASSERT_TRUE(r.diagram);
     const InteractionChart fromReport = render::diagramChart(*r.diagram);
     const InteractionChart fromWindow = ui::chartOf(plot->data());

@@ -151,10 +151,10 @@ TEST(MomentContourPainter, TheWindowsDiagramAndTheReportsPictureAreOneContour)
         ASSERT_TRUE(setControlByName(p, n, v, erro)) << erro;
     }
     p.Command1_Click();
-    const auto janela = report::momentContourOf(p);
+    const auto janela = report::momentContourOf(p.registroDoCalculo());
     report::ReportData r;
     std::string erro;
-    ASSERT_TRUE(report::buildReport(p, {"01/02/2025 08:30", "0.1"}, r, erro)) << erro;
+    ASSERT_TRUE(report::buildReport(p.registroDoCalculo(), {"01/02/2025 08:30", "0.1"}, r, erro)) << erro;
     ASSERT_TRUE(janela && r.momentContour);
     EXPECT_EQ(janela->contour, r.momentContour->contour);
     ASSERT_EQ(janela->points.size(), r.momentContour->points.size());

@@ -100,7 +100,7 @@ Written write(const Program& program, const QTemporaryDir& dir, const char* name
     Written w;
     w.path = dir.filePath(QString::fromUtf8(name));
     std::string error;
-    EXPECT_TRUE(render::writeReport(program, w.path.toStdString(), stamp, error)) << error;
+    EXPECT_TRUE(render::writeReport(program.registroDoCalculo(), w.path.toStdString(), stamp, error)) << error;
     w.pages = pdfText(w.path);
     w.text = flat(w.pages);
     return w;
@@ -274,7 +274,7 @@ TEST(ReportPdf, RefusedWithTheFileAndTheReason)
         PolicyDialogs dialogs;
         const Program none(dialogs);
         const QString path = dir.filePath("nada.pdf");
-        EXPECT_FALSE(render::writeReport(none, path.toStdString(), kStamp, error));
+        EXPECT_FALSE(render::writeReport(none.registroDoCalculo(), path.toStdString(), kStamp, error));
         EXPECT_NE(error.find(path.toStdString()), std::string::npos) << error;
         EXPECT_NE(error.find("não há cálculo"), std::string::npos) << error;
         EXPECT_FALSE(QFile::exists(path));
@@ -287,7 +287,7 @@ TEST(ReportPdf, RefusedWithTheFileAndTheReason)
     };
     for (const auto& [path, reason] : places) {
         error.clear();
-        EXPECT_FALSE(render::writeReport(c.program, path, kStamp, error)) << path;
+        EXPECT_FALSE(render::writeReport(c.program.registroDoCalculo(), path, kStamp, error)) << path;
         EXPECT_FALSE(error.empty());
         EXPECT_NE(error.find(path), std::string::npos) << error;
         EXPECT_NE(error.find(reason), std::string::npos) << error;
@@ -297,7 +297,7 @@ TEST(ReportPdf, RefusedWithTheFileAndTheReason)
 TEST(ReportPdf, CommandLineWritesTheReportOfItsRunAndSearch)
 {
     QTemporaryDir dir;
-    const ReportWriter writer = [](const Program& p, const std::string& path, std::string& error) {
+    const ReportWriter writer = [](const app::CalculationRecord& p, const std::string& path, std::string& error) {
         return render::writeReport(p, path, kStamp, error);
     };
     const std::string path = dir.filePath("melhor.pdf").toStdString();

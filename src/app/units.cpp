@@ -2,10 +2,7 @@
 // factor (1 N = 0.1 kgf, 1 kN = 100 kgf, 1 MPa = 10 kgf/cm²), as the program always
 // has: the factors are not to be "corrected" to 9.80665.
 
-#include "window/units.h"
-
-#include "window/program.h"
-#include "window/units.h"
+#include "app/units.h"
 
 #include <array>
 #include <utility>
@@ -49,20 +46,12 @@ const std::array<std::pair<const char*, double>, 29> kUnidades{{
 }};
 } // namespace
 
-std::optional<double> fatorDaUnidade(std::string_view nome)
+std::optional<double> unitFactor(std::string_view name)
 {
-    for (const auto& [n, fator] : kUnidades)
-        if (nome == n)
-            return fator;
+    for (const auto& [n, factor] : kUnidades)
+        if (name == n)
+            return factor;
     return std::nullopt;
-}
-
-void Program::Unidades30()
-{
-    // Exact, case-sensitive names. An unknown name (only a hand-edited project file
-    // can bring one) leaves the factor of the previous quantity in place.
-    if (const auto fator = fatorDaUnidade(UnidadeNome))
-        FatorUnidade = *fator;
 }
 
 } // namespace pilarix

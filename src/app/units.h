@@ -9,6 +9,6 @@ namespace pilarix {
 
 // The factor that turns a value in the named unit into kgf, kgf·cm or kgf/cm²; none
 // for a name the lists do not hold.
-std::optional<double> fatorDaUnidade(std::string_view nome);
+std::optional<double> unitFactor(std::string_view name);
 
 } // namespace pilarix
