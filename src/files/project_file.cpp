@@ -582,8 +582,8 @@ bool gravaRegistros(const Forms& origem, const std::vector<std::string>& extras,
 
 void mostraErroDeArquivo(Program& p)
 {
-    p.metodo.MensagemErro = p.ErroArquivo;
-    p.metodo.ItemNorma.clear();
+    p.metodo().MensagemErro = p.ErroArquivo;
+    p.metodo().ItemNorma.clear();
     p.MostraErro();
 }
 

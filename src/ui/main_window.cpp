@@ -409,7 +409,7 @@ void MainWindow::calcula()
         // The stirrup chosen in "Escolha dos estribos" for an earlier column is not
         // carried into this one: the same project gives the same stirrup whatever
         // was calculated before it in this window.
-        program_->memoria.stirrup = {};
+        program_->calculadora.memory.stirrup = {};
         program_->Command1_Click();
     });
     dizEstriboMantido();

@@ -14,7 +14,7 @@ namespace {
 double lido(const std::string& texto) { return texto.empty() ? 0 : Val(texto); }
 } // namespace
 
-std::vector<engine::Case2014> Program::casos2014()
+std::vector<engine::Case2014> Program::casos2014() const
 {
     const double fn = unitFactor(Form1.Combo4.Text).value_or(Nd != 0 ? Nd / Val(Form1.Text16.Text) : 1);
     const double fm = unitFactor(Form1.Combo5.Text).value_or(Md != 0 ? Md / Val(Form1.Text17.Text) : 1);
@@ -36,35 +36,16 @@ engine::Slenderness2014Input Program::esbeltez2014() const
     return s;
 }
 
-void Program::calcula2014(engine::Questions& perguntas)
+app::Project Program::projetoDoCalculo() const
 {
-    engine::Column2014Result r =
-        engine::calculate2014(Entrada, casos2014(), esbeltez2014(), perguntas, memoria, metodo,
-                              norma2023() ? engine::ConcreteRules::Nbr2023 : engine::ConcreteRules::Nbr2014);
-    for (const auto& c : r.cases) {
-        if (r.cases.size() < 2)
-            break;
-        // The table of cases shows the direction that needs more steel.
-        const bool emB = c.b.asNec > c.h.asNec;
-        ResultadosDosCasos.push_back({c.loadCase.name, c.loadCase.Nd, c.loadCase.MdTop,
-                                      r.detail.design.zone, r.detail.design.betaX, emB ? c.b.asNec : c.h.asNec,
-                                      std::max(c.h.utilisation, c.b.utilisation), c.governing});
-    }
-    if (r.refusal) {
-        Resultado2014 = std::move(r);
-        return;
-    }
-    // The detailed section in the direction of h, under the governing case.
-    if (r.detail.detailed && !r.cases.empty()) {
-        const auto& g = r.cases[static_cast<std::size_t>(r.governingCase)];
-        engine::ColumnInput governante = Entrada;
-        governante.Nd = g.loadCase.Nd;
-        governante.Md = g.h.slenderness.totalMoment / r.gammaN;
-        if (const auto secao = engine::detailedSection(governante, r.detail))
-            Verificacao = engine::verify(*secao, g.nSd, g.h.slenderness.totalMoment);
-    }
-    Resultado = r.detail;
-    Resultado2014 = std::move(r);
+    app::Project projeto;
+    projeto.rules = norma2023()   ? app::RuleSet::Nbr2023
+                    : norma2014() ? app::RuleSet::Nbr2014
+                                  : app::RuleSet::Nbr2001;
+    projeto.column = entradaDoCalculo();
+    projeto.cases = casos2014();
+    projeto.slenderness = esbeltez2014();
+    return projeto;
 }
 
 } // namespace pilarix

@@ -16,6 +16,7 @@
 #include "engine/verification.h"
 #include "window/dialog_port.h"
 #include "app/calculation_record.h"
+#include "app/calculator.h"
 #include "app/dialog_record.h"
 #include "window/forms.h"
 
@@ -59,8 +60,9 @@ public:
 
     // The method's variables as the calculations of this window left them, and what
     // the method carries from one calculation to the next.
-    engine::MethodState metodo;
-    engine::Memory memoria;
+    app::Calculator calculadora;
+    engine::MethodState& metodo() { return calculadora.state; }
+    const engine::MethodState& metodo() const { return calculadora.state; }
     // The drawing of the section of the last detailed calculation.
     std::optional<engine::SectionGeometry> Desenho;
     unsigned VersaoDoDesenho = 0; // counts the changes of Desenho
@@ -77,7 +79,7 @@ public:
     bool norma2023() const { return Form1.Norma.Text == lists::norma[2]; }
     // The load cases with their end moments in both directions, and the slenderness
     // inputs, as Ler02 read the window (window/norma2014.cpp).
-    std::vector<engine::Case2014> casos2014();
+    std::vector<engine::Case2014> casos2014() const;
     engine::Slenderness2014Input esbeltez2014() const;
     // Every message and question of the last calculation, in order, with the answer
     // given: the error dialogs, the cover question, the stirrup choice, the notices.
@@ -106,6 +108,9 @@ public:
 
     // The values of a calculation as the window holds them after Ler02.
     engine::ColumnInput entradaDoCalculo() const;
+    // The project as the calculator takes it: the rule set, the column, every load
+    // case in the program's units and the slenderness inputs (window/norma2014.cpp).
+    app::Project projetoDoCalculo() const;
 
     // ---- input (window/read_input.cpp, window/units.cpp) ----
     void Ler02();
@@ -166,8 +171,6 @@ public:
     void reescreveDLinha(const std::string& texto);
     // Every case of the last calculation with several (empty with one case).
     std::vector<CaseOutcome> ResultadosDosCasos;
-    // The cases in the program's units, the first from Nd and Md as Ler02 read them.
-    std::vector<engine::LoadCase> casosDeCarga();
 
     // ---- project files (files/project_file.cpp) ----
     DadosDaObra Obra; // "Arquivo > Dados da obra..."
@@ -208,9 +211,6 @@ public:
 private:
     void programa0Passes();
     void passeInterativo();
-    void calculaCasos(engine::Questions& perguntas);
-    // ABNT NBR 6118:2014: both directions of every case (window/norma2014.cpp).
-    void calcula2014(engine::Questions& perguntas);
     void finalDeErro();
     // An input refused before the calculation: the message, no result, "erro".
     void recusaEntrada(const std::string& mensagem);

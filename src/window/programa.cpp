@@ -61,7 +61,7 @@ engine::ExposureClass classe(const std::string& texto)
 
 } // namespace
 
-void Program::MostraErro() { MostraMensagem(metodo.MensagemErro, metodo.ItemNorma); }
+void Program::MostraErro() { MostraMensagem(metodo().MensagemErro, metodo().ItemNorma); }
 
 void Program::MostraMensagem(const std::string& mensagem, const std::string& item)
 {
@@ -74,14 +74,14 @@ void Program::MostraMensagem(const std::string& mensagem, const std::string& ite
 
 std::string Program::resumoDosDados() const
 {
-    return engine::describe({Base, Altura, nBase, static_cast<double>(nAltura), metodo.dLinha, Nd, Md, Fck, Precisao});
+    return engine::describe({Base, Altura, nBase, static_cast<double>(nAltura), metodo().dLinha, Nd, Md, Fck, Precisao});
 }
 
 void Program::falhaDeCalculo(const std::string& mensagem)
 {
-    metodo.MensagemErro = mensagem;
-    metodo.ItemNorma.clear();
-    metodo.FlagErro = engine::ErrorFlag::Failed;
+    metodo().MensagemErro = mensagem;
+    metodo().ItemNorma.clear();
+    metodo().FlagErro = engine::ErrorFlag::Failed;
     MostraErro();
     finalDeErro();
 }
@@ -91,8 +91,8 @@ void Program::recusaEntrada(const std::string& mensagem)
     Desenho.reset();
     ++VersaoDoDesenho;
     Zera31();
-    metodo.MensagemErro = mensagem;
-    metodo.ItemNorma.clear();
+    metodo().MensagemErro = mensagem;
+    metodo().ItemNorma.clear();
     MostraErro();
     finalDeErro();
 }
@@ -129,7 +129,7 @@ engine::ColumnInput Program::entradaDoCalculo() const
     in.maxStirrupIndex = IndiceEstriboMax;
     // Δc by the tolerance chosen; with neither chosen (a file may say so) it stays
     // as the last calculation took it.
-    in.deltaC = f.Option1.Value ? 1 : f.Option2.Value ? 0.5 : metodo.DeltaC;
+    in.deltaC = f.Option1.Value ? 1 : f.Option2.Value ? 0.5 : metodo().DeltaC;
     in.exposure = classe(f.Combo2.Text);
     in.correctCoverWithoutAsking = f.Check1.ticked();
     in.stirrupMode = modoDoEstribo(f);
@@ -150,7 +150,7 @@ void Program::programa0Passes()
 {
     ++CalculosFeitos;
     MensagensDoCalculo.clear();
-    metodo.Recalcula = engine::Recalculation::No;
+    metodo().Recalcula = engine::Recalculation::No;
     Form1.Image1Visible = false;
     // Whatever stops this calculation, Ler02 included, nothing of the one before
     // stays on show.
@@ -165,7 +165,7 @@ void Program::programa0Passes()
     }
     std::feclearexcept(FE_ALL_EXCEPT);
     Ler02();
-    engine::checkFloatingPoint("Ler02", {Base, Altura, nBase, static_cast<double>(nAltura), metodo.dLinha, Nd, Md,
+    engine::checkFloatingPoint("Ler02", {Base, Altura, nBase, static_cast<double>(nAltura), metodo().dLinha, Nd, Md,
                                          Fck, Precisao});
     const bool erroDeEntrada = ErroEntrada == "s";
     Desenho.reset();
@@ -181,20 +181,18 @@ void Program::programa0Passes()
 void Program::passeInterativo()
 {
     PerguntasDaJanela perguntas(*this);
-    Entrada = entradaDoCalculo();
-    // With load cases beyond the first, the one needing the most steel is detailed.
-    const bool casos = !OutrosCasos.empty();
-    if (norma2014()) {
-        calcula2014(perguntas);
-        if (!Resultado) {
-            // Refused by a rule of 2014 (γn, λ > 90): nothing was designed.
-            finalDeErro();
-            return;
-        }
-    } else if (casos)
-        calculaCasos(perguntas);
-    else
-        Resultado = engine::calculate(Entrada, perguntas, memoria, metodo);
+    const app::Project projeto = projetoDoCalculo();
+    Entrada = projeto.column;
+    const app::Calculation calculo = calculadora.calculate(projeto, perguntas);
+    Resultado = calculo.result;
+    Verificacao = calculo.verification;
+    Resultado2014 = calculo.result2014;
+    ResultadosDosCasos = calculo.cases;
+    if (!Resultado) {
+        // Refused by a rule of 2014 (γn, λ > 90): nothing was designed.
+        finalDeErro();
+        return;
+    }
     const engine::ColumnResult& r = *Resultado;
     if (r.dLinhaText)
         reescreveDLinha(*r.dLinhaText);
@@ -216,16 +214,13 @@ void Program::passeInterativo()
     Desenho = r.geometry;
     ++VersaoDoDesenho;
     Form1.CotasVisiveis = true;
-    if (!casos && !norma2014())
-        Verificacao = engine::verify(Entrada, r);
     std::feclearexcept(FE_ALL_EXCEPT);
     Imprime37();
-    engine::checkFloatingPoint("Imprime37", {Base, Altura, nBase, static_cast<double>(nAltura), metodo.dLinha, Nd, Md,
+    engine::checkFloatingPoint("Imprime37", {Base, Altura, nBase, static_cast<double>(nAltura), metodo().dLinha, Nd, Md,
                                              Fck, Precisao});
     // "Ok" only where the column earns it: the method's checks, the detailed section
     // under every case and the final arrangement as built.
-    const bool regras2014 = !Resultado2014 || Resultado2014->failures.empty();
-    if (metodo.FlagErro == engine::ErrorFlag::None && r.carried && r.arrangementFailures == 0 && regras2014) {
+    if (calculo.earnsOk(metodo())) {
         Form1.Text30.Text = "Ok";
         Form1.Text30.BackColor = kWhite;
     } else {

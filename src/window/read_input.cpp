@@ -88,15 +88,15 @@ void Program::Ler02()
     // repeated pass does not repeat the warnings.
     auto erro = [this](const engine::Check& c) {
         ErroEntrada = "s";
-        metodo.MensagemErro = c.text;
-        metodo.ItemNorma = std::string(c.clause);
+        metodo().MensagemErro = c.text;
+        metodo().ItemNorma = std::string(c.clause);
         MostraErro();
     };
     if (Fck == 0) {
         erro(engine::checks::fckZero());
         return;
     }
-    const bool repetido = metodo.Recalcula == engine::Recalculation::Yes;
+    const bool repetido = metodo().Recalcula == engine::Recalculation::Yes;
     if (Fck < 200 && !repetido)
         erro(engine::checks::fckBelowMinimum(Fck));
     // ABNT NBR 6118:2014 covers the classes up to C90 (8.2.1); the 2001 project, C50.

@@ -87,7 +87,7 @@ app::CalculationRecord Program::registroDoCalculo() const
                 app::withoutAccessKey(f.Check5.Caption)};
     r.reading = static_cast<const WindowReading&>(*this);
 
-    r.method = metodo;
+    r.method = metodo();
     r.result = Resultado;
     r.verification = Verificacao;
     r.result2014 = Resultado2014;

@@ -41,7 +41,7 @@ void Program::LimpaResultados()
 void Program::Imprime37()
 {
     auto& f = Form1;
-    const auto& m = metodo;
+    const auto& m = metodo();
     f.Text9.Text = Format(m.AsMin, "##0.00");
     f.Text10.Text = Format(m.AsNec, "##0.00");
     f.Text11.Text = Format(m.AsReal, "##0.00");

@@ -98,8 +98,7 @@ void poeNaJanela(Program& p, const SolutionRow& s)
     f.Text3.Enabled = true;
     f.Command17.Enabled = true;
     p.SolucaoNoForm = "s";
-    p.metodo.Lambda = s.LambdaC1;
-    p.memoria.lambda = s.LambdaC1;
+    p.calculadora.startFrom(s);
     p.Programa0();
 }
 
@@ -140,18 +139,7 @@ void buscaMelhorSolucao(Program& p)
     leEntrada(p);
 
     if (p.ErroEntrada != "s") {
-        engine::SearchInput in;
-        in.column = p.entradaDoCalculo();
-        in.maxBarsOnWidthFace = p.nMaxBase;
-        in.maxBarsOnDepthFace = p.nMaxAltura;
-        if (p.norma2014()) {
-            in.column.rules = engine::RuleSet::Nbr2014;
-            in.cases2014 = p.casos2014();
-            in.slenderness2014 = p.esbeltez2014();
-            in.concrete2014 = p.norma2023() ? engine::ConcreteRules::Nbr2023 : engine::ConcreteRules::Nbr2014;
-        } else if (!p.OutrosCasos.empty()) {
-            in.cases = p.casosDeCarga();
-        }
+        engine::SearchInput in = app::searchInputOf(p.projetoDoCalculo(), p.nMaxBase, p.nMaxAltura);
         // A section so large that the search would run for long asks first; the
         // engineer may lift the limit for this search.
         const double total = engine::countCandidates(in);
@@ -161,7 +149,7 @@ void buscaMelhorSolucao(Program& p)
         in.progress = [&p](double feitos, double todos) { return p.dialogs().searchProgress(feitos, todos); };
         const engine::SearchResult r = [&] {
             BuscaEmCurso busca(p);
-            return engine::search(in, p.memoria, p.metodo);
+            return p.calculadora.search(in);
         }();
         if (r.beyondLimit || r.cancelled) {
             const std::string aviso =

@@ -82,9 +82,9 @@ void PerguntasDaJanela::tell(const engine::Check& c)
     default:
         break;
     }
-    p_.metodo.MensagemErro = c.text;
+    p_.metodo().MensagemErro = c.text;
     if (c.namesClause)
-        p_.metodo.ItemNorma = std::string(c.clause);
+        p_.metodo().ItemNorma = std::string(c.clause);
     p_.MostraErro();
 }
 

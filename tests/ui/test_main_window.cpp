@@ -250,7 +250,7 @@ TEST(UiDialogosReais, StirrupChoiceDialogDecidesTheStirrup)
         ASSERT_EQ(opcoes.size(), 4u) << "three diameters and the least steel";
         EXPECT_EQ(opcoes[0], "fi de 0.8mm a cada 20cm. (independe do tipo de aço do estribo).");
         EXPECT_EQ(opcoes[3], "Utilizar a solução que proporcione menos quantidade de aço por metro");
-        EXPECT_DOUBLE_EQ(w.program().metodo.DiamEstribo, r.diametro) << r.opcao;
+        EXPECT_DOUBLE_EQ(w.program().metodo().DiamEstribo, r.diametro) << r.opcao;
         EXPECT_EQ(w.findChild<QLineEdit*>(QStringLiteral("Text27"))->text().toStdString(), r.texto27) << r.opcao;
     }
 }

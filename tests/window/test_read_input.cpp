@@ -157,7 +157,7 @@ TEST(Ler02, FckMessages)
 TEST(Ler02, FckWarningsAreNotRepeatedOnARecalculation)
 {
     Fixture f;
-    f.p.metodo.Recalcula = engine::Recalculation::Yes;
+    f.p.metodo().Recalcula = engine::Recalculation::Yes;
     f.p.Form1.Text18.Text = "19";
     f.p.Ler02();
     EXPECT_TRUE(f.dialogs.records.empty());
