@@ -112,7 +112,7 @@ public:
     // case in the program's units and the slenderness inputs (window/norma2014.cpp).
     app::Project projetoDoCalculo() const;
 
-    // ---- input (window/read_input.cpp, window/units.cpp) ----
+    // ---- input (window/read_input.cpp) ----
     void Ler02();
     // What the last Ler02 rewrote in the boxes (a side raised to 12 cm, a bar count
     // that does not fit), said to the user beside the corrected box.
