@@ -1,7 +1,8 @@
 #pragma once
 // The controls of the main window and of "Outros valores" by the names the program
 // gives them ("Text1", "Combo4", "Option7(1)", "Form8.Text1"), for the command line,
-// and the heading of the report: "Obra", "Cliente", "Pilar", "Engenheiro", "Revisao".
+// and the heading of the report: "Obra", "Cliente", "Pilar", "Engenheiro", "Revisao",
+// as the table of controls (window/control_table.h) names them.
 
 #include "window/program.h"
 
