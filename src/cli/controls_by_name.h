@@ -1,9 +1,10 @@
 #pragma once
 // The controls of the main window and of "Outros valores" by the names the program
 // gives them ("Text1", "Combo4", "Option7(1)", "Form8.Text1"), for the command line,
-// and the heading of the report: "Obra", "Cliente", "Pilar", "Engenheiro", "Revisao".
+// and the heading of the report: "Obra", "Cliente", "Pilar", "Engenheiro", "Revisao",
+// as the table of controls (window/control_table.h) names them.
 
-#include "window/program.h"
+#include "window/control_table.h"
 
 #include <string>
 #include <utility>
@@ -15,8 +16,5 @@ namespace pilarix {
 // check box takes 0, 1 or 2, an option button True or False (True clears the other
 // buttons of its group). On failure returns false and says why in `error`.
 bool setControlByName(Program& program, const std::string& name, const std::string& value, std::string& error);
-
-// Every text box of the main window, by name, in the order of their numbers.
-std::vector<std::pair<std::string, const TextBox*>> textBoxesOf(const Form1Model& form);
 
 } // namespace pilarix

@@ -1,6 +1,7 @@
 // Project files and the default-values file "Padrão.txt": the whole input of the
 // main window and the four settings of "Outros valores", one record a line.
 
+#include "window/control_table.h"
 #include "window/program.h"
 
 #include "engine/catalogue.h"
@@ -26,175 +27,22 @@ namespace {
 constexpr const char* kArquivoPadrao = "Padrão.txt";
 constexpr std::size_t kRegistros = 39;
 
-enum class Tipo {
-    Texto,   // a box's text, as it stands
-    Verdade, // "True" / "False": an enabled or selected state
-    Caixa,   // a check box: 0, 1 or 2, written with a leading blank
-    Lista,   // a list's text, which must be one of its entries
-};
+using Tipo = Controle::Tipo;
 
-// The two hooks are found by caption, not by their place in the option array, so
-// that a file says the same thing whatever the order of the array.
-constexpr const char* kGancho90 = "&90";
-constexpr const char* kGancho45 = "&45     ou semi-circ.";
+// A number printed to a file reserves its first place for the sign: a check box's 0,
+// 1 or 2 is written with a leading blank.
+std::string comLugarDoSinal(const std::string& v) { return !v.empty() && v.front() == '-' ? v : " " + v; }
 
-OptionButton& gancho(Form1Model& f, const char* caption)
+// The controls of the 39 records, in the order of the file.
+const std::array<const Controle*, kRegistros>& registros()
 {
-    for (auto& o : f.Option7)
-        if (o.Caption == caption)
-            return o;
-    return std::string(caption) == kGancho90 ? f.Option7[1] : f.Option7[0];
-}
-const OptionButton& gancho(const Form1Model& f, const char* caption)
-{
-    return gancho(const_cast<Form1Model&>(f), caption);
-}
-
-std::string verdade(bool b) { return b ? "True" : "False"; }
-bool deVerdade(const std::string& s) { return s == "True"; }
-// A number printed to a file reserves its first place for the sign.
-std::string caixa(int v)
-{
-    std::string texto = std::to_string(v);
-    if (v >= 0)
-        texto.insert(texto.begin(), ' ');
-    return texto;
-}
-
-// An option button set to True clears the rest of its group, as clicking it does.
-template <typename... Outros>
-void opcao(const std::string& s, OptionButton& o, Outros&... outros)
-{
-    if (deVerdade(s))
-        selectOption(o, outros...);
-    else
-        o.Value = false;
-}
-
-void opcaoGancho(Forms& p, const std::string& s, const char* caption)
-{
-    OptionButton& o = gancho(p.Form1, caption);
-    if (!deVerdade(s)) {
-        o.Value = false;
-        return;
-    }
-    for (auto& outro : p.Form1.Option7)
-        outro.Value = false;
-    o.Value = true;
-}
-
-struct Registro {
-    const char* controle; // how the message names it
-    Tipo tipo;
-    const std::vector<std::string>* lista;
-    std::string (*valor)(const Forms&);
-    void (*atribui)(Forms&, const std::string&);
-};
-
-// The records in the order of the file.
-const std::array<Registro, kRegistros>& registros()
-{
-    using L = const std::vector<std::string>*;
-    static const std::array<Registro, kRegistros> tabela{{
-        {"Text23, comprimento", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text23.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Text23.Text = s; }},
-        {"Text1, base", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text1.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Text1.Text = s; }},
-        {"Text2, altura", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text2.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Text2.Text = s; }},
-        {"Text31, passo da base", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text31.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Text31.Text = s; }},
-        {"Text32, passo da altura", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text32.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Text32.Text = s; }},
-        {"Text4, barras nas faces da base", Tipo::Texto, nullptr,
-         [](const Forms& p) { return p.Form1.Text4.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Text4.Text = s; }},
-        {"Text5, barras nas faces da altura", Tipo::Texto, nullptr,
-         [](const Forms& p) { return p.Form1.Text5.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Text5.Text = s; }},
-        {"Text3, d'", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text3.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Text3.Text = s; }},
-        {"Text3 habilitado", Tipo::Verdade, nullptr, [](const Forms& p) { return verdade(p.Form1.Text3.Enabled); },
-         [](Forms& p, const std::string& s) { p.Form1.Text3.Enabled = deVerdade(s); }},
-        {"Command17 (estimrar d') habilitado", Tipo::Verdade, nullptr,
-         [](const Forms& p) { return verdade(p.Form1.Command17.Enabled); },
-         [](Forms& p, const std::string& s) { p.Form1.Command17.Enabled = deVerdade(s); }},
-        {"Check1, corrigir o cobrimento sem perguntar", Tipo::Caixa, nullptr,
-         [](const Forms& p) { return caixa(p.Form1.Check1.Value); },
-         [](Forms& p, const std::string& s) { p.Form1.Check1.Value = s[0] - '0'; }},
-        {"Text16, Nd", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text16.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Text16.Text = s; }},
-        {"Text17, Md", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text17.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Text17.Text = s; }},
-        {"Text18, Fck", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text18.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Text18.Text = s; }},
-        {"Text20, Es", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text20.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Text20.Text = s; }},
-        {"Text21, coeficiente do concreto", Tipo::Texto, nullptr,
-         [](const Forms& p) { return p.Form1.Text21.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Text21.Text = s; }},
-        {"Text22, coeficiente do aço", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text22.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Text22.Text = s; }},
-        {"Combo4, unidade de Nd", Tipo::Lista, L{&lists::forca}, [](const Forms& p) { return p.Form1.Combo4.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Combo4.Text = s; }},
-        {"Combo5, unidade de Md", Tipo::Lista, L{&lists::momento},
-         [](const Forms& p) { return p.Form1.Combo5.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Combo5.Text = s; }},
-        {"Combo6, unidade de Fck", Tipo::Lista, L{&lists::tensao},
-         [](const Forms& p) { return p.Form1.Combo6.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Combo6.Text = s; }},
-        {"Combo1, aço", Tipo::Lista, L{&lists::aco}, [](const Forms& p) { return p.Form1.Combo1.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Combo1.Text = s; }},
-        {"Combo7, unidade de Es", Tipo::Lista, L{&lists::tensao},
-         [](const Forms& p) { return p.Form1.Combo7.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Combo7.Text = s; }},
-        {"Option3, estribo pré-definido", Tipo::Verdade, nullptr,
-         [](const Forms& p) { return verdade(p.Form1.Option3.Value); },
-         [](Forms& p, const std::string& s) { opcao(s, p.Form1.Option3, p.Form1.Option5, p.Form1.Option6); }},
-        {"Check5, mesmo tipo de aço", Tipo::Caixa, nullptr,
-         [](const Forms& p) { return caixa(p.Form1.Check5.Value); },
-         [](Forms& p, const std::string& s) { p.Form1.Check5.Value = s[0] - '0'; }},
-        {"Option5, estribo mais econômico", Tipo::Verdade, nullptr,
-         [](const Forms& p) { return verdade(p.Form1.Option5.Value); },
-         [](Forms& p, const std::string& s) { opcao(s, p.Form1.Option5, p.Form1.Option3, p.Form1.Option6); }},
-        {"Option6, estribo definido manualmente", Tipo::Verdade, nullptr,
-         [](const Forms& p) { return verdade(p.Form1.Option6.Value); },
-         [](Forms& p, const std::string& s) { opcao(s, p.Form1.Option6, p.Form1.Option3, p.Form1.Option5); }},
-        {"Combo3, estribo pré-definido", Tipo::Lista, L{&lists::estribo},
-         [](const Forms& p) { return p.Form1.Combo3.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Combo3.Text = s; }},
-        {"Option7, gancho &90", Tipo::Verdade, nullptr,
-         [](const Forms& p) { return verdade(gancho(p.Form1, kGancho90).Value); },
-         [](Forms& p, const std::string& s) { opcaoGancho(p, s, kGancho90); }},
-        {"Option7, gancho &45 ou semi-circ.", Tipo::Verdade, nullptr,
-         [](const Forms& p) { return verdade(gancho(p.Form1, kGancho45).Value); },
-         [](Forms& p, const std::string& s) { opcaoGancho(p, s, kGancho45); }},
-        {"Combo2, classe de agressividade", Tipo::Lista, L{&lists::agressividade},
-         [](const Forms& p) { return p.Form1.Combo2.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Combo2.Text = s; }},
-        {"Option1, dc = 10mm", Tipo::Verdade, nullptr, [](const Forms& p) { return verdade(p.Form1.Option1.Value); },
-         [](Forms& p, const std::string& s) { opcao(s, p.Form1.Option1, p.Form1.Option2); }},
-        {"Option2, dc = 5mm", Tipo::Verdade, nullptr, [](const Forms& p) { return verdade(p.Form1.Option2.Value); },
-         [](Forms& p, const std::string& s) { opcao(s, p.Form1.Option2, p.Form1.Option1); }},
-        {"Outros valores: diâmetro máximo do agregado", Tipo::Texto, nullptr,
-         [](const Forms& p) { return p.Form8.Text2.Text; },
-         [](Forms& p, const std::string& s) { p.Form8.Text2.Text = s; }},
-        {"Outros valores: precisão", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form8.Text1.Text; },
-         [](Forms& p, const std::string& s) { p.Form8.Text1.Text = s; }},
-        {"Text6, escala", Tipo::Texto, nullptr, [](const Forms& p) { return p.Form1.Text6.Text; },
-         [](Forms& p, const std::string& s) { p.Form1.Text6.Text = s; }},
-        {"Text6 habilitado", Tipo::Verdade, nullptr, [](const Forms& p) { return verdade(p.Form1.Text6.Enabled); },
-         [](Forms& p, const std::string& s) { p.Form1.Text6.Enabled = deVerdade(s); }},
-        {"Check2, bitola automática", Tipo::Caixa, nullptr,
-         [](const Forms& p) { return caixa(p.Form1.Check2.Value); },
-         [](Forms& p, const std::string& s) { p.Form1.Check2.Value = s[0] - '0'; }},
-        {"Outros valores: diâmetro máximo dos estribos", Tipo::Lista, L{&lists::estribo},
-         [](const Forms& p) { return p.Form8.Combo1.Text; },
-         [](Forms& p, const std::string& s) { p.Form8.Combo1.Text = s; }},
-        {"Outros valores: diâmetro máximo das barras longitudinais", Tipo::Lista, L{&lists::longitudinal},
-         [](const Forms& p) { return p.Form8.Combo3.Text; },
-         [](Forms& p, const std::string& s) { p.Form8.Combo3.Text = s; }},
-    }};
+    static const auto tabela = [] {
+        std::array<const Controle*, kRegistros> t{};
+        for (const auto& c : controles())
+            if (c.arquivo.lugar >= 1 && static_cast<std::size_t>(c.arquivo.lugar) <= kRegistros)
+                t[static_cast<std::size_t>(c.arquivo.lugar) - 1] = &c;
+        return t;
+    }();
     return tabela;
 }
 
@@ -238,34 +86,47 @@ bool leCampos(const std::string& nome, std::vector<std::string>& campos, std::st
 //                             the heading of the report ("Dados da obra..."), each
 //                             %-encoded, each only when it is not empty
 
-constexpr const char* kCaso = "Caso";
-constexpr const char* kCasoCodificado = "Caso%";
-constexpr const char* kBitolaFixa = "Bitola fixa";
-constexpr const char* kDAutomatico = "d' automático";
+// d' as typed is no control of its own: it rides after "d' automático".
 constexpr const char* kDDigitado = "d' digitado";
-constexpr const char* kNorma = "Norma";
-constexpr const char* kSegundaOrdem = "SegundaOrdem";
-constexpr const char* kEstriboDiametro = "EstriboDiametro";
-// The boxes 2014 adds and the typed stirrup's spacing, in the order they are written.
-const std::vector<std::pair<const char*, TextBox Form1Model::*>>& caixasOpcionais()
+
+// The controls kept after the 39 records, in the order they are written.
+const std::vector<const Controle*>& depoisDos39()
 {
-    static const std::vector<std::pair<const char*, TextBox Form1Model::*>> t{
-        {"MdBase", &Form1Model::MdBase}, {"MyTopo", &Form1Model::MyTopo}, {"MyBase", &Form1Model::MyBase},
-        {"LeH", &Form1Model::LeH},       {"LeB", &Form1Model::LeB},
-        {"EstriboEspacamento", &Form1Model::EstriboEspacamento}};
-    return t;
+    static const auto tabela = [] {
+        std::vector<const Controle*> t;
+        for (const auto& c : controles())
+            if (static_cast<std::size_t>(c.arquivo.lugar) > kRegistros)
+                t.push_back(&c);
+        std::stable_sort(t.begin(), t.end(),
+                         [](const Controle* a, const Controle* b) { return a->arquivo.lugar < b->arquivo.lugar; });
+        return t;
+    }();
+    return tabela;
 }
 
-// The heading of the report, in the order of the file.
-struct CampoDaObra {
-    const char* registro;
-    std::string DadosDaObra::*campo;
+// The controls after the 39 whose records have an encoding of their own; the other
+// boxes are kept as numbers with a decimal point, the heading %-encoded.
+struct Especiais {
+    const Controle& casos = *controle("Casos");
+    const Controle& bitolaFixa = *controle("Bitola fixa");
+    const Controle& dAutomatico = *controle("Check3");
+    const Controle& norma = *controle("Norma");
+    const Controle& segundaOrdem = *controle("SegundaOrdem");
+    const Controle& estriboDiametro = *controle("EstriboDiametro");
 };
-constexpr std::array<CampoDaObra, 5> kCamposDaObra{{{"Obra", &DadosDaObra::obra},
-                                                    {"Cliente", &DadosDaObra::cliente},
-                                                    {"Pilar", &DadosDaObra::pilar},
-                                                    {"Engenheiro", &DadosDaObra::engenheiro},
-                                                    {"Revisão", &DadosDaObra::revisao}}};
+const Especiais& especiais()
+{
+    static const Especiais e;
+    return e;
+}
+
+// What a single control kept after the 39 is when a file has no record of it: a
+// list's first entry (the 2001 project, the approximate curvature, no typed
+// stirrup), a check box clear, a box or the heading empty.
+std::string semRegistro(const Controle& c)
+{
+    return c.tipo == Tipo::Lista ? c.lista->front() : c.tipo == Tipo::Marca ? "0" : "";
+}
 
 std::vector<std::string> partes(const std::string& s)
 {
@@ -293,77 +154,100 @@ bool dLinhaReescrita(const Program& p)
 // "Caso;NOME..." or, for a name the plain record would not give back, "Caso%;...".
 std::string registroDeCaso(const std::string& nome, const std::string& resto)
 {
+    const std::string registro = especiais().casos.arquivo.registro;
     if (files::needsPercent(nome))
-        return std::string(kCasoCodificado) + ";" + files::percentEncoded(nome) + resto;
-    return std::string(kCaso) + ";" + nome + resto;
+        return registro + "%;" + files::percentEncoded(nome) + resto;
+    return registro + ";" + nome + resto;
 }
 
-// The records after the 39; false, naming the case and the value, for a case that
-// no file can give back.
+// The load cases after the first; false, naming the case and the value, for a case
+// that no file can give back.
+bool registrosDeCasos(const Program& p, std::vector<std::string>& e, std::string& erro)
+{
+    if (p.OutrosCasos.empty())
+        return true;
+    auto recusa = [&](const std::string& porque) {
+        erro = "Não foi possível gravar o arquivo " + aspas(p.NomeArquivo) + ": " + porque + ".";
+        return false;
+    };
+    for (std::size_t k = 0; k <= p.OutrosCasos.size(); ++k) {
+        const std::string& nome = k == 0 ? p.NomeDoCaso1 : p.OutrosCasos[k - 1].nome;
+        if (nome.empty())
+            return recusa("o caso de carga " + std::to_string(k + 1) + " não tem nome");
+        if (!files::isUtf8(nome))
+            return recusa("o nome do caso de carga " + std::to_string(k + 1) + " não é texto UTF-8");
+    }
+    e.push_back(registroDeCaso(p.NomeDoCaso1, ""));
+    for (const auto& c : p.OutrosCasos) {
+        for (const std::string* v : {&c.nd, &c.md})
+            if (!IsNumber(*v))
+                return recusa(std::string(v == &c.nd ? "Nd" : "Md") + " do caso " + aspas(c.nome) + " é " + aspas(*v)
+                              + ", que não é um número com ponto decimal");
+        std::string resto = ";" + c.nd + ";" + c.md;
+        if (!c.mdBase.empty() || !c.myTopo.empty() || !c.myBase.empty()) {
+            for (const std::string* v : {&c.mdBase, &c.myTopo, &c.myBase})
+                if (!v->empty() && !IsNumber(*v))
+                    return recusa("um momento do caso " + aspas(c.nome) + " é " + aspas(*v)
+                                  + ", que não é um número com ponto decimal");
+            resto += ";" + c.mdBase + ";" + c.myTopo + ";" + c.myBase;
+        }
+        e.push_back(registroDeCaso(c.nome, resto));
+    }
+    return true;
+}
+
+// The records after the 39, each only when its control is not as a file without it
+// would leave it; false, naming the control and the value, for a value that no file
+// can give back.
 bool registrosExtras(const Program& p, std::vector<std::string>& e, std::string& erro)
 {
-    if (!p.OutrosCasos.empty()) {
-        auto recusa = [&](const std::string& porque) {
-            erro = "Não foi possível gravar o arquivo " + aspas(p.NomeArquivo) + ": " + porque + ".";
-            return false;
-        };
-        for (std::size_t k = 0; k <= p.OutrosCasos.size(); ++k) {
-            const std::string& nome = k == 0 ? p.NomeDoCaso1 : p.OutrosCasos[k - 1].nome;
-            if (nome.empty())
-                return recusa("o caso de carga " + std::to_string(k + 1) + " não tem nome");
-            if (!files::isUtf8(nome))
-                return recusa("o nome do caso de carga " + std::to_string(k + 1) + " não é texto UTF-8");
+    const Especiais& x = especiais();
+    for (const Controle* c : depoisDos39()) {
+        const std::string registro = c->arquivo.registro;
+        if (c == &x.casos) {
+            if (!registrosDeCasos(p, e, erro))
+                return false;
+            continue;
         }
-        e.push_back(registroDeCaso(p.NomeDoCaso1, ""));
-        for (const auto& c : p.OutrosCasos) {
-            for (const std::string* v : {&c.nd, &c.md})
-                if (!IsNumber(*v))
-                    return recusa(std::string(v == &c.nd ? "Nd" : "Md") + " do caso " + aspas(c.nome) + " é "
-                                  + aspas(*v) + ", que não é um número com ponto decimal");
-            std::string resto = ";" + c.nd + ";" + c.md;
-            if (!c.mdBase.empty() || !c.myTopo.empty() || !c.myBase.empty()) {
-                for (const std::string* v : {&c.mdBase, &c.myTopo, &c.myBase})
-                    if (!v->empty() && !IsNumber(*v))
-                        return recusa("um momento do caso " + aspas(c.nome) + " é " + aspas(*v)
-                                      + ", que não é um número com ponto decimal");
-                resto += ";" + c.mdBase + ";" + c.myTopo + ";" + c.myBase;
+        if (c == &x.bitolaFixa) {
+            if (p.BitolaFixa != 0)
+                e.push_back(registro + ";" + std::string(engine::bar(p.BitolaFixa).label));
+            continue;
+        }
+        const std::string v = c->valor(p);
+        if (c == &x.dAutomatico) {
+            if (v != "0")
+                e.push_back(registro + ";" + v);
+            if (dLinhaReescrita(p))
+                e.push_back(std::string(kDDigitado) + ";" + files::percentEncoded(*p.DLinhaDigitado));
+        } else if (c == &x.norma) {
+            if (p.norma2014())
+                e.push_back(registro + (p.norma2023() ? ";2023" : ";2014"));
+        } else if (c == &x.segundaOrdem) {
+            if (v == (*c->lista)[1])
+                e.push_back(registro + ";" + v);
+        } else if (c == &x.estriboDiametro) {
+            if (!v.empty())
+                e.push_back(registro + ";" + v);
+        } else if (c->tipo == Tipo::Caixa) {
+            if (v.empty())
+                continue;
+            if (!IsNumber(v)) {
+                erro = "Não foi possível gravar o arquivo " + aspas(p.NomeArquivo) + ": " + registro + " é " + aspas(v)
+                       + ", que não é um número com ponto decimal.";
+                return false;
             }
-            e.push_back(registroDeCaso(c.nome, resto));
+            e.push_back(registro + ";" + v);
+        } else { // the heading of the report
+            if (v.empty())
+                continue;
+            if (!files::isUtf8(v)) {
+                erro = "Não foi possível gravar o arquivo " + aspas(p.NomeArquivo) + ": " + registro
+                       + " (dados da obra) não é texto UTF-8.";
+                return false;
+            }
+            e.push_back(registro + ";" + files::percentEncoded(v));
         }
-    }
-    if (p.BitolaFixa != 0)
-        e.push_back(std::string(kBitolaFixa) + ";" + std::string(engine::bar(p.BitolaFixa).label));
-    if (p.Form1.Check3.Value != 0)
-        e.push_back(std::string(kDAutomatico) + ";" + std::to_string(p.Form1.Check3.Value));
-    if (dLinhaReescrita(p))
-        e.push_back(std::string(kDDigitado) + ";" + files::percentEncoded(*p.DLinhaDigitado));
-    if (p.norma2014())
-        e.push_back(std::string(kNorma) + (p.norma2023() ? ";2023" : ";2014"));
-    for (const auto& [nome, caixa] : caixasOpcionais()) {
-        const std::string& v = (p.Form1.*caixa).Text;
-        if (v.empty())
-            continue;
-        if (!IsNumber(v)) {
-            erro = "Não foi possível gravar o arquivo " + aspas(p.NomeArquivo) + ": " + nome + " é " + aspas(v)
-                   + ", que não é um número com ponto decimal.";
-            return false;
-        }
-        e.push_back(std::string(nome) + ";" + v);
-    }
-    if (!p.Form1.EstriboDiametro.Text.empty())
-        e.push_back(std::string(kEstriboDiametro) + ";" + p.Form1.EstriboDiametro.Text);
-    if (p.Form1.SegundaOrdem.Text == "rigidez")
-        e.push_back(std::string(kSegundaOrdem) + ";rigidez");
-    for (const auto& [registro, campo] : kCamposDaObra) {
-        const std::string& texto = p.Obra.*campo;
-        if (texto.empty())
-            continue;
-        if (!files::isUtf8(texto)) {
-            erro = "Não foi possível gravar o arquivo " + aspas(p.NomeArquivo) + ": " + registro
-                   + " (dados da obra) não é texto UTF-8.";
-            return false;
-        }
-        e.push_back(std::string(registro) + ";" + files::percentEncoded(texto));
     }
     return true;
 }
@@ -372,19 +256,18 @@ struct Extras {
     std::string nomeDoCaso1 = "1";
     std::vector<CasoDeCarga> casos;
     int bitolaFixa = 0;
-    int dAutomatico = 0;
     std::optional<std::string> dDigitado;
-    int norma = 0; // the entry of the list: 0 the 2001 project, 1 2014, 2 2023
-    bool rigidez = false;
-    std::string estriboDiametro;
-    std::vector<std::pair<TextBox Form1Model::*, std::string>> caixasOpcionais;
-    DadosDaObra obra;
+    // The single controls read after the 39, each with the value it takes, in the
+    // order of the file.
+    std::vector<std::pair<const Controle*, std::string>> valores;
 };
 
 // The records after the 39, or the first that is broken, told in `erro`.
 Extras leExtras(const std::vector<std::string>& campos, const std::string& nome, std::string& erro)
 {
-    Extras x;
+    const Especiais& x = especiais();
+    const std::string caso = x.casos.arquivo.registro;
+    Extras extras;
     bool primeiroCaso = true;
     for (std::size_t i = kRegistros; i < campos.size() && erro.empty(); ++i) {
         const std::string& v = campos[i];
@@ -395,18 +278,21 @@ Extras leExtras(const std::vector<std::string>& campos, const std::string& nome,
             erro = "Arquivo " + aspas(nome) + ", registro " + std::to_string(i + 1) + " " + aspas(v) + ": " + porque
                    + ". Nenhum valor foi carregado.";
         };
-        if (p[0] == kCasoCodificado && p.size() >= 2) {
+        if (p[0] == caso + "%" && p.size() >= 2) {
             if (auto decodificado = files::percentDecoded(p[1]); decodificado && files::isUtf8(*decodificado)) {
-                p[0] = kCaso;
+                p[0] = caso;
                 p[1] = *decodificado;
             } else {
                 quebrado("o nome do caso de carga tem um % que não é seguido de dois algarismos hexadecimais");
                 continue;
             }
         }
-        if (p[0] == kCaso) {
+        const auto k = std::find_if(depoisDos39().begin(), depoisDos39().end(),
+                                    [&](const Controle* c) { return p[0] == c->arquivo.registro; });
+        const Controle* c = k != depoisDos39().end() ? *k : nullptr;
+        if (c == &x.casos) {
             if (primeiroCaso && p.size() == 2 && !p[1].empty()) {
-                x.nomeDoCaso1 = p[1];
+                extras.nomeDoCaso1 = p[1];
             } else if (primeiroCaso) {
                 quebrado("o primeiro caso de carga tem só o nome (Caso;NOME), suas forças são Nd e Md");
             } else if ((p.size() != 4 && p.size() != 7) || p[1].empty()) {
@@ -419,67 +305,65 @@ Extras leExtras(const std::vector<std::string>& campos, const std::string& nome,
                 quebrado("as forças de um caso de carga são números com ponto decimal");
             } else {
                 p.resize(7);
-                x.casos.push_back({p[1], p[2], p[3], p[4], p[5], p[6]});
+                extras.casos.push_back({p[1], p[2], p[3], p[4], p[5], p[6]});
             }
             primeiroCaso = false;
-        } else if (p[0] == kNorma) {
+        } else if (c == &x.norma) {
             if (p.size() != 2 || (p[1] != "2014" && p[1] != "2023"))
                 quebrado("a norma se grava como Norma;2014 ou Norma;2023");
             else
-                x.norma = p[1] == "2014" ? 1 : 2;
-        } else if (p[0] == kSegundaOrdem) {
-            if (p.size() != 2 || p[1] != "rigidez")
+                extras.valores.emplace_back(c, (*c->lista)[p[1] == "2014" ? 1 : 2]);
+        } else if (c == &x.segundaOrdem) {
+            if (p.size() != 2 || p[1] != (*c->lista)[1])
                 quebrado("o método da segunda ordem se grava como SegundaOrdem;rigidez");
             else
-                x.rigidez = true;
-        } else if (const auto k = std::find_if(caixasOpcionais().begin(), caixasOpcionais().end(),
-                                               [&](const auto& c) { return p[0] == c.first; });
-                   k != caixasOpcionais().end()) {
+                extras.valores.emplace_back(c, p[1]);
+        } else if (c && c->tipo == Tipo::Caixa) {
             if (p.size() != 2 || !IsNumber(p[1]))
-                quebrado(std::string(k->first) + " é um número com ponto decimal");
+                quebrado(std::string(c->arquivo.registro) + " é um número com ponto decimal");
             else
-                x.caixasOpcionais.emplace_back(k->second, p[1]);
-        } else if (p[0] == kEstriboDiametro) {
-            if (p.size() != 2 || std::find(lists::estribo.begin(), lists::estribo.end(), p[1]) == lists::estribo.end())
+                extras.valores.emplace_back(c, p[1]);
+        } else if (c == &x.estriboDiametro) {
+            // The list's first entry, empty, is no stirrup and has no record.
+            if (p.size() != 2 || p[1].empty()
+                || std::find(c->lista->begin(), c->lista->end(), p[1]) == c->lista->end())
                 quebrado("o diâmetro do estribo digitado é um da lista, de \"5 mm\" a \"10 mm (3/8'')\"");
             else
-                x.estriboDiametro = p[1];
-        } else if (p[0] == kBitolaFixa) {
-            const int k = p.size() == 2 ? engine::barIndexByLabel(p[1]) : 0;
-            if (k < engine::kFirstLongitudinalBar)
+                extras.valores.emplace_back(c, p[1]);
+        } else if (c == &x.bitolaFixa) {
+            const int b = p.size() == 2 ? engine::barIndexByLabel(p[1]) : 0;
+            if (b < engine::kFirstLongitudinalBar)
                 quebrado("a bitola fixada deve ser uma das barras longitudinais, de \"10 mm (3/8'')\" a \"40 mm\"");
             else
-                x.bitolaFixa = k;
-        } else if (p[0] == kDAutomatico) {
+                extras.bitolaFixa = b;
+        } else if (c == &x.dAutomatico) {
             if (p.size() != 2 || (p[1] != "1" && p[1] != "2"))
                 quebrado("\"d' automático\" marcado se grava como d' automático;1 (ou 2)");
             else
-                x.dAutomatico = p[1][0] - '0';
+                extras.valores.emplace_back(c, p[1]);
         } else if (p[0] == kDDigitado) {
             const auto d = p.size() == 2 ? files::percentDecoded(p[1]) : std::nullopt;
             if (!d || !files::isUtf8(*d))
                 quebrado("o d' digitado se grava como d' digitado;VALOR, com % e dois algarismos hexadecimais");
             else
-                x.dDigitado = *d;
-        } else if (const auto campo = std::find_if(kCamposDaObra.begin(), kCamposDaObra.end(),
-                                                   [&](const CampoDaObra& c) { return p[0] == c.registro; });
-                   campo != kCamposDaObra.end()) {
+                extras.dDigitado = *d;
+        } else if (c && c->tipo == Tipo::Texto) {
             const auto texto = p.size() == 2 ? files::percentDecoded(p[1]) : std::nullopt;
+            const std::string registro = c->arquivo.registro;
             if (!texto || !files::isUtf8(*texto))
-                quebrado(std::string(campo->registro) + " se grava como " + campo->registro
-                         + ";TEXTO, com % e dois algarismos hexadecimais");
+                quebrado(registro + " se grava como " + registro + ";TEXTO, com % e dois algarismos hexadecimais");
             else
-                x.obra.*(campo->campo) = *texto;
+                extras.valores.emplace_back(c, *texto);
         } else {
             quebrado("depois dos 39 registros vêm só casos de carga (Caso;...), a bitola fixada (Bitola fixa;...),"
                      " o d' (d' automático;... e d' digitado;...), os dados da obra (Obra;..., Cliente;..., "
                      "Pilar;..., Engenheiro;..., Revisão;...) e o que a ABNT NBR 6118:2014 acrescenta (Norma;2014...)");
         }
     }
-    if (erro.empty() && !primeiroCaso && x.casos.empty())
+    if (erro.empty() && !primeiroCaso && extras.casos.empty())
         erro = "Arquivo " + aspas(nome) + ": o nome do primeiro caso de carga sem outros casos depois dele."
                + " Nenhum valor foi carregado.";
-    return x;
+    return extras;
 }
 
 // The first record whose value does not fit its control, or an empty text.
@@ -488,20 +372,19 @@ std::string validaCampos(const std::vector<std::string>& campos, const std::stri
     if (campos.size() < kRegistros)
         return "O arquivo " + aspas(nome) + " tem " + std::to_string(campos.size())
                + " registros e um arquivo de valores tem " + std::to_string(kRegistros) + ": falta o registro "
-               + std::to_string(campos.size() + 1) + " (" + registros()[campos.size()].controle
+               + std::to_string(campos.size() + 1) + " (" + registros()[campos.size()]->arquivo.rotulo
                + "). Nenhum valor foi carregado.";
     for (std::size_t i = 0; i < kRegistros; ++i) {
-        const Registro& r = registros()[i];
+        const Controle& r = *registros()[i];
         const std::string& v = campos[i];
         std::string esperado;
         switch (r.tipo) {
-        case Tipo::Texto:
-            break;
-        case Tipo::Verdade:
+        case Tipo::Opcao:
+        case Tipo::Habilitado:
             if (v != "True" && v != "False")
                 esperado = "deveria ser True ou False";
             break;
-        case Tipo::Caixa:
+        case Tipo::Marca:
             if (v != "0" && v != "1" && v != "2")
                 esperado = "deveria ser 0, 1 ou 2";
             break;
@@ -516,9 +399,11 @@ std::string validaCampos(const std::vector<std::string>& campos, const std::stri
             }
             break;
         }
+        default: // a box's text, as it stands
+            break;
         }
         if (!esperado.empty())
-            return "Arquivo " + aspas(nome) + ", registro " + std::to_string(i + 1) + " (" + r.controle
+            return "Arquivo " + aspas(nome) + ", registro " + std::to_string(i + 1) + " (" + r.arquivo.rotulo
                    + "): o valor " + aspas(v) + " " + esperado + ". Nenhum valor foi carregado.";
     }
     return {};
@@ -530,15 +415,15 @@ std::string textoDoArquivo(const Forms& origem, const std::vector<std::string>& 
                            std::string& erro)
 {
     std::string texto;
-    for (const auto& r : registros()) {
-        const std::string valor = r.valor(origem);
+    for (const Controle* r : registros()) {
+        const std::string valor = r->valor(origem);
         // A check box's number keeps the sign's place the reader drops.
         std::string porque;
-        const auto registro = r.tipo == Tipo::Caixa ? std::optional<std::string>(valor)
-                                                    : files::recordText(valor, porque);
+        const auto registro = r->tipo == Tipo::Marca ? std::optional<std::string>(comLugarDoSinal(valor))
+                                                     : files::recordText(valor, porque);
         if (!registro) {
             erro = "Não foi possível gravar o arquivo " + aspas(nome) + ": o valor " + aspas(valor) + " de "
-                   + r.controle + " " + porque + " e não seria lido de volta.";
+                   + r->arquivo.rotulo + " " + porque + " e não seria lido de volta.";
             return {};
         }
         texto += *registro + "\r\n";
@@ -561,11 +446,9 @@ bool gravaRegistros(const Forms& origem, const std::vector<std::string>& extras,
     const auto campos = camposDelimitados(textoUtf8(texto));
     std::string lido = validaCampos(campos, nome);
     for (std::size_t i = 0; lido.empty() && i < kRegistros; ++i) {
-        std::string valor = registros()[i].valor(origem);
-        if (registros()[i].tipo == Tipo::Caixa && !valor.empty() && valor.front() == ' ')
-            valor.erase(0, 1); // the sign's place
+        const std::string valor = registros()[i]->valor(origem);
         if (campos[i] != valor)
-            lido = "o valor " + aspas(valor) + " de " + registros()[i].controle + " seria lido como "
+            lido = "o valor " + aspas(valor) + " de " + registros()[i]->arquivo.rotulo + " seria lido como "
                    + aspas(campos[i]);
     }
     if (lido.empty())
@@ -616,20 +499,15 @@ void Program::Carrega33()
     }
     Zera31();
     for (std::size_t i = 0; i < kRegistros; ++i)
-        registros()[i].atribui(*this, campos[i]);
+        registros()[i]->atribui(*this, campos[i]);
     NomeDoCaso1 = extras.nomeDoCaso1;
     OutrosCasos = extras.casos;
     BitolaFixa = extras.bitolaFixa;
-    Form1.Check3.Value = extras.dAutomatico;
-    // A file without them is a project of the 2001 rules.
-    Form1.Norma.Text = lists::norma[static_cast<std::size_t>(extras.norma)];
-    Form1.SegundaOrdem.Text = extras.rigidez ? "rigidez" : "curvatura";
-    Form1.EstriboDiametro.Text = extras.estriboDiametro;
-    for (const auto& [nome, caixa] : caixasOpcionais())
-        (Form1.*caixa).Text.clear();
-    for (const auto& [caixa, valor] : extras.caixasOpcionais)
-        (Form1.*caixa).Text = valor;
-    Obra = extras.obra;
+    for (const Controle* c : depoisDos39())
+        if (c->tipo != Tipo::Composto)
+            c->atribui(*this, semRegistro(*c));
+    for (const auto& [c, valor] : extras.valores)
+        c->atribui(*this, valor);
     // The next calculation starts where the saved one did; saved again before it,
     // the file is the same.
     if (extras.dDigitado) {

@@ -5,6 +5,8 @@
 
 #include "window/program.h"
 
+#include "window/control_table.h"
+
 namespace pilarix {
 
 namespace {
@@ -36,27 +38,13 @@ std::vector<app::TypedBox> boxesAsTyped(const Form1Model& f)
     return out;
 }
 
-// Every text box of the main window, in the order of their numbers.
+// Every text box of the main window, in the order of their numbers, as the table of
+// controls names them.
 std::vector<app::Box> boxesOf(const Form1Model& f)
 {
-    const std::vector<std::pair<const char*, const TextBox*>> caixas{
-        {"Text1", &f.Text1},   {"Text2", &f.Text2},   {"Text3", &f.Text3},   {"Text4", &f.Text4},
-        {"Text5", &f.Text5},   {"Text6", &f.Text6},   {"Text8", &f.Text8},   {"Text9", &f.Text9},
-        {"Text10", &f.Text10}, {"Text11", &f.Text11}, {"Text12", &f.Text12}, {"Text13", &f.Text13},
-        {"Text14", &f.Text14}, {"Text15", &f.Text15}, {"Text16", &f.Text16}, {"Text17", &f.Text17},
-        {"Text18", &f.Text18}, {"Text19", &f.Text19}, {"Text20", &f.Text20}, {"Text21", &f.Text21},
-        {"Text22", &f.Text22}, {"Text23", &f.Text23}, {"Text25", &f.Text25}, {"Text26", &f.Text26},
-        {"Text27", &f.Text27}, {"Text28", &f.Text28}, {"Text29", &f.Text29}, {"Text30", &f.Text30},
-        {"Text31", &f.Text31}, {"Text32", &f.Text32},
-    };
     std::vector<app::Box> out;
-    for (const auto& [nome, caixa] : caixas) {
-        out.push_back({nome, caixa->Text, false});
-        // The bar list sits where its number falls: after Text6.
-        if (std::string_view(nome) == "Text6")
-            for (std::size_t i = 0; i < f.Text7.size(); ++i)
-                out.push_back({"Text7(" + std::to_string(i) + ")", f.Text7[i].Text, f.Text7[i].BackColor == kDarkBlue});
-    }
+    for (const auto& [nome, caixa] : textBoxesOf(f))
+        out.push_back({nome, caixa->Text, caixa->BackColor == kDarkBlue});
     return out;
 }
 

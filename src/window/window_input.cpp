@@ -3,194 +3,16 @@
 #include "base/calc_error.h"
 #include "base/number_text.h"
 #include "app/units.h"
+#include "window/control_table.h"
 
 #include <algorithm>
 #include <array>
 #include <cctype>
 #include <cmath>
-#include <cstdlib>
-#include <functional>
 
 namespace pilarix {
 
 namespace {
-
-constexpr unsigned P = 1, R = 2, B = 4; // Projeto, Resultado, Busca
-
-unsigned bit(Alcance a) { return a == Alcance::Projeto ? P : a == Alcance::Resultado ? R : B; }
-
-struct Entrada {
-    std::string nome;
-    unsigned alcances;
-    std::function<std::string(const Program&)> le;
-    std::function<void(Program&, const std::string&)> poe;
-};
-
-template <typename Campo>
-Entrada campo(const char* nome, unsigned alcances, Campo campo)
-{
-    return {nome, alcances, [campo](const Program& p) { return campo(const_cast<Program&>(p)); },
-            [campo](Program& p, const std::string& v) { campo(p) = v; }};
-}
-
-std::string marca(int v) { return std::to_string(v); }
-
-Entrada caixaDeMarcar(const char* nome, unsigned alcances, CheckBox Form1Model::*c)
-{
-    return {nome, alcances, [c](const Program& p) { return marca((p.Form1.*c).Value); },
-            [c](Program& p, const std::string& v) {
-                (p.Form1.*c).Value = v == "1" ? 1 : v == "2" ? 2 : 0;
-                // With d' found from the cover, the d' box and its estimate are out of use.
-                if (c == &Form1Model::Check3) {
-                    p.Form1.Text3.Enabled = !p.Form1.Check3.ticked();
-                    p.Form1.Command17.Enabled = !p.Form1.Check3.ticked();
-                }
-            }};
-}
-
-// A group of options as the name of the one selected ("" when none is).
-Entrada grupo(std::vector<std::pair<std::string, OptionButton Form1Model::*>> opcoes, unsigned alcances)
-{
-    std::string nome;
-    for (const auto& [n, o] : opcoes)
-        nome += (nome.empty() ? "" : "|") + n;
-    return {nome, alcances,
-            [opcoes](const Program& p) {
-                for (const auto& [n, o] : opcoes)
-                    if ((p.Form1.*o).Value)
-                        return n;
-                return std::string();
-            },
-            [opcoes](Program& p, const std::string& v) {
-                for (const auto& [n, o] : opcoes)
-                    (p.Form1.*o).Value = n == v;
-            }};
-}
-
-std::string casos(const Program& p)
-{
-    std::string s = p.NomeDoCaso1;
-    for (const auto& c : p.OutrosCasos) {
-        s += "\n" + c.nome + ";" + c.nd + ";" + c.md;
-        if (!c.mdBase.empty() || !c.myTopo.empty() || !c.myBase.empty())
-            s += ";" + c.mdBase + ";" + c.myTopo + ";" + c.myBase;
-    }
-    return s;
-}
-
-void poeCasos(Program& p, const std::string& s)
-{
-    std::vector<std::string> linhas;
-    std::size_t inicio = 0;
-    for (;;) {
-        const auto fim = s.find('\n', inicio);
-        linhas.push_back(s.substr(inicio, fim - inicio));
-        if (fim == std::string::npos)
-            break;
-        inicio = fim + 1;
-    }
-    p.NomeDoCaso1 = linhas.front();
-    p.OutrosCasos.clear();
-    for (std::size_t i = 1; i < linhas.size(); ++i) {
-        std::vector<std::string> campos;
-        for (std::size_t inicio = 0;;) {
-            const auto fim = linhas[i].find(';', inicio);
-            campos.push_back(linhas[i].substr(inicio, fim - inicio));
-            if (fim == std::string::npos)
-                break;
-            inicio = fim + 1;
-        }
-        campos.resize(6);
-        p.OutrosCasos.push_back({campos[0], campos[1], campos[2], campos[3], campos[4], campos[5]});
-    }
-}
-
-const std::vector<Entrada>& entradas()
-{
-    using F = Form1Model;
-    static const std::vector<Entrada> tabela = [] {
-        std::vector<Entrada> t;
-        auto texto = [&t](const char* nome, unsigned alcances, TextBox F::*c) {
-            t.push_back(campo(nome, alcances, [c](Program& p) -> std::string& { return (p.Form1.*c).Text; }));
-        };
-        auto lista = [&t](const char* nome, unsigned alcances, ComboBox F::*c) {
-            t.push_back(campo(nome, alcances, [c](Program& p) -> std::string& { return (p.Form1.*c).Text; }));
-        };
-        // "Dimensões"
-        texto("Text1", P | R | B, &F::Text1);
-        texto("Text2", P | R | B, &F::Text2);
-        texto("Text23", P | R | B, &F::Text23);
-        texto("Text31", P, &F::Text31);
-        texto("Text32", P, &F::Text32);
-        // "Arranjo"
-        texto("Text4", P | R, &F::Text4);
-        texto("Text5", P | R, &F::Text5);
-        texto("Text3", P | R, &F::Text3);
-        t.push_back(caixaDeMarcar("Check3", P | R, &F::Check3));
-        // "Esforços e Resistências"
-        texto("Text16", P | R | B, &F::Text16);
-        lista("Combo4", P | R | B, &F::Combo4);
-        texto("Text17", P | R | B, &F::Text17);
-        lista("Combo5", P | R | B, &F::Combo5);
-        texto("Text18", P | R | B, &F::Text18);
-        lista("Combo6", P | R | B, &F::Combo6);
-        texto("Text20", P | R | B, &F::Text20);
-        lista("Combo7", P | R | B, &F::Combo7);
-        texto("Text21", P | R | B, &F::Text21);
-        texto("Text22", P | R | B, &F::Text22);
-        lista("Combo1", P | R | B, &F::Combo1);
-        // "Cobrimento"
-        t.push_back(grupo({{"Option1", &F::Option1}, {"Option2", &F::Option2}}, P | R | B));
-        lista("Combo2", P | R | B, &F::Combo2);
-        t.push_back(caixaDeMarcar("Check1", P | R, &F::Check1));
-        // "Bitola (mm)"
-        t.push_back(caixaDeMarcar("Check2", P | R | B, &F::Check2));
-        t.push_back({"Bitola fixa", P | R | B, [](const Program& p) { return std::to_string(p.BitolaFixa); },
-                     [](Program& p, const std::string& v) { p.BitolaFixa = std::atoi(v.c_str()); }});
-        // "Estribos" and "Ganchos"
-        t.push_back(grupo({{"Option3", &F::Option3}, {"Option5", &F::Option5}, {"Option6", &F::Option6}}, P | R));
-        lista("Combo3", P | R, &F::Combo3);
-        lista("EstriboDiametro", P | R, &F::EstriboDiametro);
-        texto("EstriboEspacamento", P | R, &F::EstriboEspacamento);
-        t.push_back(caixaDeMarcar("Check5", P | R | B, &F::Check5));
-        // The hooks are elements of an array: their group reads them by index.
-        t.push_back({"Option7(0)|Option7(1)", P | R,
-                     [](const Program& p) {
-                         return std::string(p.Form1.Option7[0].Value   ? "Option7(0)"
-                                            : p.Form1.Option7[1].Value ? "Option7(1)"
-                                                                       : "");
-                     },
-                     [](Program& p, const std::string& v) {
-                         p.Form1.Option7[0].Value = v == "Option7(0)";
-                         p.Form1.Option7[1].Value = v == "Option7(1)";
-                     }});
-        texto("Text6", P, &F::Text6);
-        // ABNT NBR 6118:2014
-        lista("Norma", P | R | B, &F::Norma);
-        lista("SegundaOrdem", P | R | B, &F::SegundaOrdem);
-        texto("MdBase", P | R | B, &F::MdBase);
-        texto("MyTopo", P | R | B, &F::MyTopo);
-        texto("MyBase", P | R | B, &F::MyBase);
-        texto("LeH", P | R | B, &F::LeH);
-        texto("LeB", P | R | B, &F::LeB);
-        // "Outros valores"
-        t.push_back(campo("Form8.Combo1", P | R | B, [](Program& p) -> std::string& { return p.Form8.Combo1.Text; }));
-        t.push_back(campo("Form8.Combo3", P | R | B, [](Program& p) -> std::string& { return p.Form8.Combo3.Text; }));
-        t.push_back(campo("Form8.Text2", P | R | B, [](Program& p) -> std::string& { return p.Form8.Text2.Text; }));
-        t.push_back(campo("Form8.Text1", P | R | B, [](Program& p) -> std::string& { return p.Form8.Text1.Text; }));
-        // Every load case is calculated and verified, and the search keeps only the
-        // arrangements that carry them all.
-        t.push_back({"Casos", P | R | B, casos, poeCasos});
-        // The work, the client, the column's name, the engineer and the revision: the project's, not the result's.
-        t.push_back(campo("Obra", P, [](Program& p) -> std::string& { return p.Obra.obra; }));
-        t.push_back(campo("Cliente", P, [](Program& p) -> std::string& { return p.Obra.cliente; }));
-        t.push_back(campo("Pilar", P, [](Program& p) -> std::string& { return p.Obra.pilar; }));
-        t.push_back(campo("Engenheiro", P, [](Program& p) -> std::string& { return p.Obra.engenheiro; }));
-        t.push_back(campo("Revisao", P, [](Program& p) -> std::string& { return p.Obra.revisao; }));
-        return t;
-    }();
-    return tabela;
-}
 
 // The value of a box in the program's reading, none where it is no number or one
 // too large for the program.
@@ -301,9 +123,9 @@ std::optional<std::string> foraDaFaixa(const Program& p)
 std::vector<std::pair<std::string, std::string>> valoresDaEntrada(const Program& p, Alcance alcance)
 {
     std::vector<std::pair<std::string, std::string>> v;
-    for (const auto& e : entradas())
-        if (e.alcances & bit(alcance))
-            v.emplace_back(e.nome, e.le(p));
+    for (const auto& c : controles())
+        if (c.em(alcance))
+            v.emplace_back(c.nome, c.valor(p));
     return v;
 }
 
@@ -317,12 +139,17 @@ std::string fotoDaEntrada(const Program& p, Alcance alcance)
 
 bool restauraEntrada(Program& p, const std::string& nome, const std::string& valor)
 {
-    for (const auto& e : entradas())
-        if (e.nome == nome) {
-            e.poe(p, valor);
-            return true;
-        }
-    return false;
+    const Controle* c = controle(nome);
+    // Only what the window compares is put back: a button of a group goes back as its group.
+    if (!c || c->alcances == 0)
+        return false;
+    c->atribui(p, valor);
+    // With d' found from the cover, the d' box and its estimate are out of use.
+    if (c->noForm1 && c->alvo(p) == Controle::Alvo(&p.Form1.Check3)) {
+        p.Form1.Text3.Enabled = !p.Form1.Check3.ticked();
+        p.Form1.Command17.Enabled = !p.Form1.Check3.ticked();
+    }
+    return true;
 }
 
 bool numeroCompleto(const std::string& texto)

@@ -6,6 +6,7 @@
 // range), made before a calculation reads the boxes. The command line does not
 // make them: it reads the boxes as the program always has.
 
+#include "window/control_table.h"
 #include "window/program.h"
 
 #include <optional>
@@ -15,19 +16,10 @@
 
 namespace pilarix {
 
-// What a set of inputs is compared for.
-enum class Alcance {
-    Projeto,   // everything a project file saves
-    Resultado, // everything the result of "&Calcula" depends on (not the steps of
-               // the "-" / "+" buttons nor the scale of the exported drawing)
-    Busca,     // what the list of the search was found for: the section, the forces
-               // and the load cases, the materials, the cover, the bar settings and "Outros valores"; not
-               // the bars per face, d' and the stirrup, which the list itself puts in
-};
-
 // The inputs of the window in `alcance`, by the names the program gives them
 // ("Text1", "Combo4", "Option1|Option2" for a group of options, "Form8.Text1",
-// "Bitola fixa", "Casos"), each with its value as text.
+// "Bitola fixa", "Casos"), each with its value as text, in the order of the table of
+// controls (window/control_table.h).
 std::vector<std::pair<std::string, std::string>> valoresDaEntrada(const Program& p, Alcance alcance);
 
 // The same as one comparable value.
