@@ -4,6 +4,7 @@
 #include "cli/case_list.h"
 #include "cli/controls_by_name.h"
 #include "cli/options.h"
+#include "report/report_numbers.h"
 #include "export/dxf_writer.h"
 #include "base/number_text.h"
 
@@ -108,6 +109,20 @@ void report(const app::CalculationRecord& r, std::ostream& out)
         << " kg\n";
     out << "Estribo: " << t("Text27") << "; cobrimento nominal " << t("Text25") << " cm, efetivo " << t("Text26")
         << " cm\n";
+    // Several load cases: each as the report lists it, and the one the column was
+    // detailed for (the boxes above are the window's first case, the results its).
+    if (const CaseOutcome* g = r.governingCase()) {
+        using namespace report::numbers;
+        const Unit force = unitOf(in.forceUnit, "kN", kKgfPerKn);
+        const Unit moment = unitOf(in.momentUnit, "kN·m", kKgfCmPerKnM);
+        for (const auto& c : r.cases)
+            out << "Caso " << c.name << ": Nd = " << forceText(c.Nd, force, true) << ", Md = "
+                << momentText(c.Md, moment, true) << "; zona " << engine::zoneLetter(c.zone) << ", As = "
+                << Format(c.asNec, "##0.00") << " cm2, utilização "
+                << (std::isfinite(c.utilisation) ? Format(100 * c.utilisation, "##0.0") + " %" : std::string("—"))
+                << "\n";
+        out << "Caso determinante: " << g->name << "\n";
+    }
     for (const auto& m : r.transcript) {
         out << "[" << m.janela << "] " << m.mensagem;
         if (!m.item.empty())
@@ -117,10 +132,13 @@ void report(const app::CalculationRecord& r, std::ostream& out)
         out << "\n";
     }
     if (const auto& v = r.verification) {
-        // In the units of the forces typed: kgf and kgf.cm divided by the units' factors.
-        out << "Verificação por compatibilidade de deformações: N_Sd = " << Format(v->nSd / 100, "##0.0") << " kN, M_Sd = "
-            << Format(v->mSd / 10000, "##0.00") << " kN.m; M_Rd = "
-            << (v->mRd ? Format(*v->mRd / 10000, "##0.00") + " kN.m" : std::string("(N_Sd fora da faixa resistente)"))
+        // In the units the forces were typed in, and in kN and kN·m, as the report writes them.
+        using namespace report::numbers;
+        const Unit force = unitOf(in.forceUnit, "kN", kKgfPerKn);
+        const Unit moment = unitOf(in.momentUnit, "kN·m", kKgfCmPerKnM);
+        out << "Verificação por compatibilidade de deformações: N_Sd = " << forceText(v->nSd, force)
+            << ", M_Sd = " << momentText(v->mSd, moment) << "; M_Rd = "
+            << (v->mRd ? momentText(*v->mRd, moment) : std::string("(N_Sd fora da faixa resistente)"))
             << "; utilização " << (std::isfinite(v->utilisation) ? Format(100 * v->utilisation, "##0.0") + " %" : "sem limite")
             << "; As por compatibilidade " << (v->asCompat ? Format(*v->asCompat, "##0.00") + " cm2" : "nenhuma") << "\n";
     }

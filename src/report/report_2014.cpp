@@ -17,16 +17,6 @@ namespace {
 
 using namespace numbers;
 
-std::string moment(double kgfCm, const Unit& u)
-{
-    return significant(kgfCm / u.factor) + " " + u.name + " (" + fixed(kgfCm / kKgfCmPerKnM, 2) + " kN·m)";
-}
-
-std::string force(double kgf, const Unit& u)
-{
-    return significant(kgf / u.factor) + " " + u.name + " (" + fixed(kgf / kKgfPerKn, 1) + " kN)";
-}
-
 std::string percent(double fraction)
 {
     return std::isfinite(fraction) ? fixed(100 * fraction, 1) + " %" : std::string("sem limite");
@@ -55,17 +45,17 @@ Section direction(const engine::Direction2014& d, char which, bool curvature, bo
         out.notes.push_back(s.refusal->text + " (" + std::string(s.refusal->clause) + ")");
         return out;
     }
-    line(out, "M1d,mín = Nd (1.5 + 0.03 h)", moment(s.minimumMoment, m), "", "item 11.3.3.4.3");
-    line(out, "M1d,A (o maior de |MA| e M1d,mín)", moment(s.firstOrderMoment, m));
+    line(out, "M1d,mín = Nd (1.5 + 0.03 h)", momentText(s.minimumMoment, m), "", "item 11.3.3.4.3");
+    line(out, "M1d,A (o maior de |MA| e M1d,mín)", momentText(s.firstOrderMoment, m));
     line(out, "Efeitos locais de 2ª ordem", s.secondOrder ? "considerados (λ > λ1)" : "dispensados (λ ≤ λ1)", "",
          "item 15.8.2");
     if (s.secondOrder) {
         if (curvature)
             line(out, "1/r = 0.005 / (h (ν + 0.5)) ≤ 0.005 / h", Format(s.curvature, "0.000E+00"), "1/cm",
                  kCurvatureClause);
-        line(out, "M2d", moment(s.secondOrderMoment, m), "", curvature ? kCurvatureClause : kStiffnessClause);
+        line(out, "M2d", momentText(s.secondOrderMoment, m), "", curvature ? kCurvatureClause : kStiffnessClause);
     }
-    line(out, "Md,tot", moment(s.totalMoment, m), "",
+    line(out, "Md,tot", momentText(s.totalMoment, m), "",
          s.secondOrder ? (curvature ? kCurvatureClause : kStiffnessClause) : "item 11.3.3.4.3");
     line(out, "As,nec", fixed(d.asNec, 2), "cm²", "dimensionamento por zonas de solicitação nesta direção");
     line(out, "Utilização da seção detalhada", percent(d.utilisation), "", "nesta direção, sozinha");
@@ -145,7 +135,7 @@ void addNorma2014(const app::CalculationRecord& rec, ReportData& report)
         line(general, "Caso determinante", g.loadCase.name, "", "o caso e a direção que pedem mais aço");
     line(general, "Direção determinante", std::string(1, r.governingDirection), "",
          r.governingDirection == 'h' ? "a de Md (Mx)" : "a de My");
-    line(general, "N_Sd = γn·Nd", force(g.nSd, f));
+    line(general, "N_Sd = γn·Nd", forceText(g.nSd, f));
     line(general, "ν = N_Sd / (Ac fcd)", fixed(g.nu, 3));
     line(general, "As,nec (a maior dos casos e direções)", fixed(r.asNec, 2), "cm²");
     general.notes.push_back("Os momentos de cálculo incluem γn. M1d,mín entra em cada direção sozinha; na flexão "
@@ -162,9 +152,9 @@ void addNorma2014(const app::CalculationRecord& rec, ReportData& report)
         return;
     }
     const engine::ObliqueCheck& o = *r.oblique;
-    line(both, "N_Sd do contorno", force(o.nSd, f), "", "o do caso determinante");
-    line(both, "M_Rd,xx em N_Sd", moment(o.mRdxx, m), "", "item 17.2.5");
-    line(both, "M_Rd,yy em N_Sd", moment(o.mRdyy, m), "", "item 17.2.5");
+    line(both, "N_Sd do contorno", forceText(o.nSd, f), "", "o do caso determinante");
+    line(both, "M_Rd,xx em N_Sd", momentText(o.mRdxx, m), "", "item 17.2.5");
+    line(both, "M_Rd,yy em N_Sd", momentText(o.mRdyy, m), "", "item 17.2.5");
     for (const auto& k : o.points) {
         std::string label = "Caso " + k.caseName + ", " + sectionName(k.section);
         line(both, label, "Mx = " + significant(k.mx / m.factor) + ", My = " + significant(k.my / m.factor), m.name,

@@ -51,20 +51,6 @@ namespace {
 using namespace numbers;
 constexpr double kKgfCm2PerMpa = 10;
 
-// A force in the unit of the window's list and in kN. `typed`: the value the
-// engineer typed, written back as typed rather than to four figures.
-std::string forceText(double kgf, const Unit& u, bool typed = false)
-{
-    const double v = kgf / u.factor;
-    return (typed ? Str(v) : significant(v)) + " " + u.name + " (" + fixed(kgf / kKgfPerKn, 1) + " kN)";
-}
-
-std::string momentText(double kgfCm, const Unit& u, bool typed = false)
-{
-    const double v = kgfCm / u.factor;
-    return (typed ? Str(v) : significant(v)) + " " + u.name + " (" + fixed(kgfCm / kKgfCmPerKnM, 2) + " kN·m)";
-}
-
 std::string mpa(double kgfCm2, int decimals) { return fixed(kgfCm2 / kKgfCm2PerMpa, decimals); }
 
 std::string projectName(const std::string& file)
@@ -330,17 +316,12 @@ void detailSection(const app::CalculationRecord& rec, const engine::ColumnResult
 
 // ---- messages ----
 
-// The two messages that tell without failing: the calculation goes on with the
+// The two checks that tell without failing: the calculation goes on with the
 // minimum stirrup, or with the area of strain compatibility.
-bool onlyTells(const std::optional<engine::ColumnResult>& r, const std::string& text)
+bool onlyTells(const DialogRecord& d)
 {
-    if (!r)
-        return false;
-    for (const auto& c : r->checks)
-        if (c.text == text)
-            return c.id == engine::CheckId::PredefinedStirrupTooThin
-                   || c.id == engine::CheckId::AreaByStrainCompatibility;
-    return false;
+    return d.check == engine::CheckId::PredefinedStirrupTooThin
+           || d.check == engine::CheckId::AreaByStrainCompatibility;
 }
 
 std::vector<Message> messagesOf(const app::CalculationRecord& rec, bool runFailed)
@@ -354,7 +335,7 @@ std::vector<Message> messagesOf(const app::CalculationRecord& rec, bool runFaile
         switch (d.kind) {
         case DialogRecord::Kind::Error:
             m.kind = Message::Kind::Error;
-            m.failed = runFailed && !onlyTells(rec.result, d.mensagem);
+            m.failed = runFailed && !onlyTells(d);
             break;
         case DialogRecord::Kind::Cover:
             m.kind = Message::Kind::Question;

@@ -35,4 +35,16 @@ Unit unitOf(const std::string& name, const char* fallbackName, double fallbackFa
     return {fallbackName, fallbackFactor};
 }
 
+std::string forceText(double kgf, const Unit& u, bool typed)
+{
+    const double v = kgf / u.factor;
+    return (typed ? Str(v) : significant(v)) + " " + u.name + " (" + fixed(kgf / kKgfPerKn, 1) + " kN)";
+}
+
+std::string momentText(double kgfCm, const Unit& u, bool typed)
+{
+    const double v = kgfCm / u.factor;
+    return (typed ? Str(v) : significant(v)) + " " + u.name + " (" + fixed(kgfCm / kKgfCmPerKnM, 2) + " kN·m)";
+}
+
 } // namespace pilarix::report::numbers

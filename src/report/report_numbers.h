@@ -19,6 +19,12 @@ struct Unit {
 };
 Unit unitOf(const std::string& name, const char* fallbackName, double fallbackFactor);
 
+// A force (kgf) or a moment (kgf·cm) in the unit of the window's list and, beside it,
+// in kN or kN·m: "600 KN (600.0 kN)". `typed`: a value the engineer typed, written
+// back as typed rather than to four figures.
+std::string forceText(double kgf, const Unit& u, bool typed = false);
+std::string momentText(double kgfCm, const Unit& u, bool typed = false);
+
 inline constexpr double kKgfPerKn = 100;
 inline constexpr double kKgfCmPerKnM = 10000;
 

@@ -68,7 +68,7 @@ void Program::MostraMensagem(const std::string& mensagem, const std::string& ite
     Form2.Label1.Caption = mensagem;
     Form2.Label2.Caption = item;
     MensagensDoCalculo.push_back(
-        {DialogRecord::Kind::Error, Form2.Caption, Form2.Label1.Caption, Form2.Label2.Caption, {}, {}, 0, {}});
+        {DialogRecord::Kind::Error, Form2.Caption, Form2.Label1.Caption, Form2.Label2.Caption, {}, {}, 0, {}, {}});
     dialogs().showError(Form2);
 }
 

@@ -159,7 +159,7 @@ void buscaMelhorSolucao(Program& p)
                                       "(pilarix-cli --limite-busca N; 0 para nenhum)."
                               : "A busca foi interrompida depois de " + Str(static_cast<double>(r.candidates))
                                     + " de " + Str(total) + " arranjos: nenhuma solução foi guardada.";
-            p.MensagensDoCalculo.push_back({DialogRecord::Kind::Notice, "aviso", aviso, {}, {}, {}, 0, {}});
+            p.MensagensDoCalculo.push_back({DialogRecord::Kind::Notice, "aviso", aviso, {}, {}, {}, 0, {}, {}});
             p.dialogs().notice(aviso);
             p.Zera31();
             f.Text30.Text = "erro";
@@ -196,7 +196,7 @@ void buscaMelhorSolucao(Program& p)
     }
 
     p.MensagensDoCalculo.push_back(
-        {DialogRecord::Kind::Notice, "aviso", std::string(engine::kNoArrangement), {}, {}, {}, 0, {}});
+        {DialogRecord::Kind::Notice, "aviso", std::string(engine::kNoArrangement), {}, {}, {}, 0, {}, {}});
     p.dialogs().notice(std::string(engine::kNoArrangement));
     p.Zera31();
     f.Text30.Text = "erro";

@@ -15,7 +15,7 @@ engine::CoverAnswer PerguntasDaJanela::askCover(const engine::CoverQuestion& q)
     const int resposta = p_.dialogs().askCover(f);
     p_.MensagensDoCalculo.push_back({DialogRecord::Kind::Cover, f.Caption, f.Label2.Caption, f.Label3.Caption,
                                      f.Command2.Caption, {}, resposta,
-                                     resposta == 1 ? f.Command2.Caption : f.Command1.Caption});
+                                     resposta == 1 ? f.Command2.Caption : f.Command1.Caption, {}});
     return resposta == 1 ? engine::CoverAnswer::Correct : engine::CoverAnswer::Ignore;
 }
 
@@ -50,7 +50,7 @@ int PerguntasDaJanela::chooseStirrup(const engine::StirrupQuestion& q)
             break;
         }
     DialogRecord r{DialogRecord::Kind::Stirrup, f.Caption, f.Label1.Caption + f.Label2.Caption, {}, {}, {},
-                   selecionada, f.Option1[static_cast<std::size_t>(escolhida)].Caption};
+                   selecionada, f.Option1[static_cast<std::size_t>(escolhida)].Caption, {}};
     for (const auto& o : f.Option1)
         r.opcoes.push_back(o.Caption);
     p_.MensagensDoCalculo.push_back(std::move(r));
@@ -78,6 +78,7 @@ void PerguntasDaJanela::tell(const engine::Check& c)
     case engine::CheckId::FinalStirrupSpacing:
     case engine::CheckId::MomentAsMagnitude:
         p_.MostraMensagem(c.text, c.namesClause ? std::string(c.clause) : p_.Form2.Label2.Caption);
+        p_.MensagensDoCalculo.back().check = c.id;
         return;
     default:
         break;
@@ -86,6 +87,7 @@ void PerguntasDaJanela::tell(const engine::Check& c)
     if (c.namesClause)
         p_.metodo().ItemNorma = std::string(c.clause);
     p_.MostraErro();
+    p_.MensagensDoCalculo.back().check = c.id;
 }
 
 } // namespace pilarix
