@@ -133,3 +133,35 @@ TEST(Cli, ABatchRunsEveryFileAsAloneAndGoesOnPastAnUnreadableOne)
     }
     std::filesystem::remove_all(dir);
 }
+
+TEST(Cli, TheTextWritesForcesInTheUnitsTypedAndNamesTheGoverningCase)
+{
+    // The same column typed in kN / kN·cm and in tf / tf·m: the text gives each unit
+    // with kN beside it, the same in both, and lists the cases with the governing one.
+    struct Row {
+        const char* name;
+        std::vector<std::string> units, cases;
+        const char* nSd;
+        const char* governing;
+    } rows[] = {
+        {"kN", {"--set", "Combo4=KN", "--set", "Combo5=KN.cm"}, {"--caso", "topo;400;10000", "--caso", "vento;600;20000"},
+         "N_Sd = 600.0 KN (600.0 kN), M_Sd = 20000 KN.cm (200.00 kN·m)", "Caso determinante: vento\n"},
+        {"tf", {"--set", "Combo4=Tf", "--set", "Combo5=Tf.m"}, {"--caso", "topo;40;10", "--caso", "vento;60;20"},
+         "N_Sd = 60.00 Tf (600.0 kN), M_Sd = 20.00 Tf.m (200.00 kN·m)", "Caso determinante: vento\n"},
+        {"one case", {"--set", "Combo4=Tf", "--set", "Combo5=Tf.m", "--set", "Text16=60", "--set", "Text17=20"}, {},
+         "N_Sd = 60.00 Tf (600.0 kN), M_Sd = 20.00 Tf.m (200.00 kN·m)", ""},
+    };
+    for (const auto& row : rows) {
+        std::vector<std::string> args{"--sem-padrao", "--set", "Text3=4"};
+        args.insert(args.end(), row.units.begin(), row.units.end());
+        args.insert(args.end(), row.cases.begin(), row.cases.end());
+        const CliRun r = runArgs(args);
+        EXPECT_NE(r.out.find(row.nSd), std::string::npos) << row.name << "\n" << r.out;
+        if (*row.governing) {
+            EXPECT_NE(r.out.find(row.governing), std::string::npos) << row.name;
+            EXPECT_NE(r.out.find("Caso topo: "), std::string::npos) << row.name;
+        } else {
+            EXPECT_EQ(r.out.find("Caso determinante"), std::string::npos) << row.name;
+        }
+    }
+}
