@@ -62,7 +62,8 @@ void WindowDialogs::abreEstimativaDLinha()
             },
             &janela_);
     // It starts from the bar, the stirrup and the cover of the last calculation.
-    if (const auto& r = janela_.program_->Resultado; r && r->detailed && r->bar) {
+    janela_.leRegistro();
+    if (const auto& r = janela_.registro_.result; r && r->detailed && r->bar) {
         auto& f5 = janela_.program_->Form5;
         for (int i = 1; i <= engine::kBarCount; ++i) {
             const auto& b = engine::bar(i);
@@ -90,7 +91,8 @@ void WindowDialogs::abreSolucoes()
 void WindowDialogs::exportaDesenho()
 {
     auto& p = *janela_.program_;
-    if (!p.Desenho) {
+    const app::CalculationRecord registro = p.registroDoCalculo();
+    if (!registro.drawing) {
         janela_.dialogos_->notice("Calcule a seção antes de exportar o desenho: não há seção detalhada para desenhar.");
         return;
     }
@@ -105,12 +107,12 @@ void WindowDialogs::exportaDesenho()
         return;
     // A design that does not hold says so in the file itself.
     std::string motivo;
-    if (p.Form1.Text30.Text != "Ok")
+    if (registro.verdict != "Ok")
         motivo = "o cálculo deu erro";
     else if (janela_.desatualizado_)
         motivo = "a entrada mudou depois do cálculo";
     const engine::SectionGeometry desenho =
-        motivo.empty() ? *p.Desenho : render::stampedUnverified(*p.Desenho, motivo);
+        motivo.empty() ? *registro.drawing : render::stampedUnverified(*registro.drawing, motivo);
     std::string erro;
     if (render::exportDrawing(desenho, nome, Val(p.Form1.Text6.Text), erro))
         janela_.mostraNaBarra(QStringLiteral("Desenho %1gravado em %2")
@@ -134,7 +136,7 @@ void WindowDialogs::imprimeMemorial()
 {
     // A report signs the results on show: results the input no longer matches are
     // calculated again first, and input that cannot be calculated reports nothing.
-    if (janela_.desatualizado_ || janela_.program_->Form1.Text30.Text.empty()) {
+    if (janela_.desatualizado_ || !janela_.program_->registroDoCalculo().calculated()) {
         if (!janela_.calculaConferido([this] { janela_.program_->Command1_Click(); }))
             return;
         janela_.mostraNaBarra(QStringLiteral("Os resultados foram recalculados para o memorial."));
