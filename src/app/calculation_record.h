@@ -12,6 +12,7 @@
 // No toolkit and no window here.
 
 #include "app/dialog_record.h"
+#include "app/project.h"
 #include "engine/column.h"
 #include "engine/column2014.h"
 #include "engine/geometry.h"
@@ -99,16 +100,13 @@ struct OptionWords {
     std::string stirrupsOfBarSteel;
 };
 
-// What the engineer gave the calculation: the project, as numbers and choices.
-struct ProjectInput {
-    std::string file;            // the project file's name; empty before one was saved
+// The project as the engineer wrote it, beside its numbers: the file, the heading,
+// the name the list gives the rule set, d' as typed, the boxes as typed and the
+// words of the options.
+struct ProjectText {
+    std::string file;       // the project file's name; empty before one was saved
     WorkHeading heading;
-    std::string forceUnit, momentUnit, strengthUnit; // as the lists spell them: "KN", "KN.cm", "MPa"
-    std::string steelGrade;      // as its list spells it: "CA-50A"
-    std::string ruleSet;         // the rule set's name as the list spells it
-    bool rules2014 = false;      // ABNT NBR 6118:2014 or 2023
-    std::string secondOrder;     // the local second order's method: "curvatura" or "rigidez"
-    engine::ColumnInput column;  // the column, its materials, bars, cover and options
+    std::string ruleSet;    // the rule set's name as the list spells it
     // d' as the box held it before the calculation rewrote it; none when it was not
     // rewritten.
     std::optional<std::string> dLinhaAsTyped;
@@ -118,7 +116,8 @@ struct ProjectInput {
 
 struct CalculationRecord {
     unsigned number = 0; // the window's count of calculations: 0 before the first
-    ProjectInput project;
+    Project project;     // what the calculation ran on
+    ProjectText text;
     WindowReading reading;
 
     // What the calculation found.

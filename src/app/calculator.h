@@ -1,8 +1,6 @@
 #pragma once
-// The calculator: what runs a calculation of a project and what the method carries
-// from one calculation to the next. A project is what the engineer gave, as numbers
-// and choices (the window's reading of its boxes makes one, window/read_input.cpp);
-// a calculation is what the engine found for it, every case and both directions
+// The calculator: what runs a calculation of a project (app/project.h) and what the
+// method carries from one calculation to the next. A calculation is what the engine found for it, every case and both directions
 // under 2014 included, with the check of the detailed section.
 //
 //   Calculator::calculate(project, questions)   "&Calcula" after the window was read
@@ -15,6 +13,7 @@
 // No toolkit and no window here.
 
 #include "app/calculation_record.h"
+#include "app/project.h"
 #include "engine/column.h"
 #include "engine/column2014.h"
 #include "engine/load_cases.h"
@@ -28,21 +27,6 @@
 #include <vector>
 
 namespace pilarix::app {
-
-enum class RuleSet { Nbr2001, Nbr2014, Nbr2023 };
-
-struct Project {
-    RuleSet rules = RuleSet::Nbr2001;
-    engine::ColumnInput column; // Nd and Md are the first case's
-    // Every load case, the first the column's own Nd and Md; under 2001 a case is its
-    // name, Nd and the moment of the top.
-    std::vector<engine::Case2014> cases;
-    engine::Slenderness2014Input slenderness; // under 2014 and 2023
-
-    bool rules2014() const { return rules != RuleSet::Nbr2001; }
-    // The cases as the 2001 rules take them: a force and one moment.
-    std::vector<engine::LoadCase> loadCases() const;
-};
 
 // What one calculation found, before any front shows it.
 struct Calculation {

@@ -94,11 +94,11 @@ const std::string& box(const app::CalculationRecord& r, std::string_view name)
 void report(const app::CalculationRecord& r, std::ostream& out)
 {
     const auto t = [&r](std::string_view name) -> const std::string& { return box(r, name); };
-    const app::ProjectInput& in = r.project;
+    const app::DisplayUnits& units = r.project.units;
     out << "Pilarix - pilar " << t("Text1") << " x " << t("Text2") << " cm, comprimento " << t("Text23") << " cm\n";
     out << "Barras por face: base " << t("Text4") << ", altura " << t("Text5") << "; d' = " << t("Text3") << " cm\n";
-    out << "Nd = " << t("Text16") << " " << in.forceUnit << ", Md = " << t("Text17") << " " << in.momentUnit
-        << ", fck = " << t("Text18") << " " << in.strengthUnit << ", " << in.steelGrade << "\n";
+    out << "Nd = " << t("Text16") << " " << units.force << ", Md = " << t("Text17") << " " << units.moment
+        << ", fck = " << t("Text18") << " " << units.strength << ", " << engine::steelGradeText(r.project.column.steel) << "\n";
     out << "Zona: " << t("Text8") << " (" << engine::zoneLetter(r.method.Zona) << "), Bx = " << t("Text28")
         << ", altura da L.N. = " << t("Text29") << " cm\n";
     out << "Área de aço (cm2): mínima " << t("Text9") << ", teórica " << t("Text10") << ", efetiva " << t("Text11")
@@ -113,8 +113,8 @@ void report(const app::CalculationRecord& r, std::ostream& out)
     // detailed for (the boxes above are the window's first case, the results its).
     if (const CaseOutcome* g = r.governingCase()) {
         using namespace report::numbers;
-        const Unit force = unitOf(in.forceUnit, "kN", kKgfPerKn);
-        const Unit moment = unitOf(in.momentUnit, "kN·m", kKgfCmPerKnM);
+        const Unit force = unitOf(units.force, "kN", kKgfPerKn);
+        const Unit moment = unitOf(units.moment, "kN·m", kKgfCmPerKnM);
         for (const auto& c : r.cases)
             out << "Caso " << c.name << ": Nd = " << forceText(c.Nd, force, true) << ", Md = "
                 << momentText(c.Md, moment, true) << "; zona " << engine::zoneLetter(c.zone) << ", As = "
@@ -134,8 +134,8 @@ void report(const app::CalculationRecord& r, std::ostream& out)
     if (const auto& v = r.verification) {
         // In the units the forces were typed in, and in kN and kN·m, as the report writes them.
         using namespace report::numbers;
-        const Unit force = unitOf(in.forceUnit, "kN", kKgfPerKn);
-        const Unit moment = unitOf(in.momentUnit, "kN·m", kKgfCmPerKnM);
+        const Unit force = unitOf(units.force, "kN", kKgfPerKn);
+        const Unit moment = unitOf(units.moment, "kN·m", kKgfCmPerKnM);
         out << "Verificação por compatibilidade de deformações: N_Sd = " << forceText(v->nSd, force)
             << ", M_Sd = " << momentText(v->mSd, moment) << "; M_Rd = "
             << (v->mRd ? momentText(*v->mRd, moment) : std::string("(N_Sd fora da faixa resistente)"))
@@ -429,7 +429,8 @@ nlohmann::ordered_json norma2014Json(const app::CalculationRecord& record, const
         return j;
     const engine::CaseResult2014& g = r.cases[static_cast<std::size_t>(r.governingCase)];
     j["NSd"] = g.nSd;
-    j["metodo"] = record.project.secondOrder;
+    j["metodo"] = record.project.slenderness.method == engine::SecondOrderMethod::ApproximateStiffness ? "rigidez"
+                                                                                                      : "curvatura";
     j["caso"] = g.loadCase.name;
     j["direcoes"] = {{"h", direcaoJson(g.h)}, {"b", direcaoJson(g.b)}};
     j["governa"] = std::string(1, r.governingDirection);
@@ -461,7 +462,7 @@ nlohmann::ordered_json documentJson(const app::CalculationRecord& record, bool m
     }
     if (record.verification)
         doc["verificacao"] = verificacaoJson(*record.verification);
-    if (record.project.rules2014 && record.result2014) {
+    if (record.project.rules2014() && record.result2014) {
         doc["norma2014"] = norma2014Json(record, *record.result2014);
         if (record.result2014->oblique)
             doc["verificacaoObliqua"] = obliquaJson(*record.result2014->oblique);

@@ -71,12 +71,12 @@ std::string sectionName(const std::string& engineName)
 
 std::optional<MomentContour> momentContourOf(const app::CalculationRecord& rec)
 {
-    if (!rec.project.rules2014 || !rec.result2014 || !rec.result2014->oblique)
+    if (!rec.project.rules2014() || !rec.result2014 || !rec.result2014->oblique)
         return std::nullopt;
     const engine::Column2014Result& r = *rec.result2014;
     const engine::ObliqueCheck& o = *r.oblique;
-    const Unit f = unitOf(rec.project.forceUnit, "kN", kKgfPerKn);
-    const Unit m = unitOf(rec.project.momentUnit, "kN·m", kKgfCmPerKnM);
+    const Unit f = unitOf(rec.project.units.force, "kN", kKgfPerKn);
+    const Unit m = unitOf(rec.project.units.moment, "kN·m", kKgfCmPerKnM);
     MomentContour c;
     c.forceUnit = f.name;
     c.momentUnit = m.name;
@@ -102,9 +102,9 @@ std::optional<MomentContour> momentContourOf(const app::CalculationRecord& rec)
 
 void addNorma2014(const app::CalculationRecord& rec, ReportData& report)
 {
-    if (!rec.project.rules2014)
+    if (!rec.project.rules2014())
         return;
-    report.norma = rec.project.ruleSet;
+    report.norma = rec.text.ruleSet;
     // The rule set heads the data, before anything it governs.
     if (!report.sections.empty()) {
         auto& lines = report.sections.front().lines;
@@ -113,9 +113,9 @@ void addNorma2014(const app::CalculationRecord& rec, ReportData& report)
     if (!rec.result2014)
         return;
     const engine::Column2014Result& r = *rec.result2014;
-    const Unit f = unitOf(rec.project.forceUnit, "kN", kKgfPerKn);
-    const Unit m = unitOf(rec.project.momentUnit, "kN·m", kKgfCmPerKnM);
-    const bool curvature = rec.project.secondOrder != "rigidez";
+    const Unit f = unitOf(rec.project.units.force, "kN", kKgfPerKn);
+    const Unit m = unitOf(rec.project.units.moment, "kN·m", kKgfCmPerKnM);
+    const bool curvature = rec.project.slenderness.method != engine::SecondOrderMethod::ApproximateStiffness;
 
     Section general;
     general.title = "Esbeltez e efeitos locais de 2ª ordem (" + report.norma + ")";

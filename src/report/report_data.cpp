@@ -109,8 +109,8 @@ std::string dLinhaNote(const app::CalculationRecord& rec, const engine::ColumnRe
         note = "o da solução nº " + Str(rec.solutionShown)
                + " da busca da melhor solução, que o achou pelo cobrimento e o pôs na caixa d′";
     else if (rec.project.column.dLinha.automatic)
-        note = rec.project.words.dLinhaFromCover + ": achado pelo cobrimento, a partir de 3 cm";
-    else if (const auto& typed = rec.project.dLinhaAsTyped; typed && trimmed(*typed).empty())
+        note = rec.text.words.dLinhaFromCover + ": achado pelo cobrimento, a partir de 3 cm";
+    else if (const auto& typed = rec.text.dLinhaAsTyped; typed && trimmed(*typed).empty())
         note = "caixa d′ vazia (0 cm)";
     else
         note = "digitado: " + (typed ? trimmed(*typed) : Str(rec.project.column.dLinha.typed)) + " cm";
@@ -119,8 +119,8 @@ std::string dLinhaNote(const app::CalculationRecord& rec, const engine::ColumnRe
     return note;
 }
 
-Unit forceUnit(const app::CalculationRecord& rec) { return unitOf(rec.project.forceUnit, "kN", kKgfPerKn); }
-Unit momentUnit(const app::CalculationRecord& rec) { return unitOf(rec.project.momentUnit, "kN·m", kKgfCmPerKnM); }
+Unit forceUnit(const app::CalculationRecord& rec) { return unitOf(rec.project.units.force, "kN", kKgfPerKn); }
+Unit momentUnit(const app::CalculationRecord& rec) { return unitOf(rec.project.units.moment, "kN·m", kKgfCmPerKnM); }
 
 void inputSection(const app::CalculationRecord& rec, const engine::ColumnResult& r, const SolutionRow* fromSearch,
                   Section& s)
@@ -169,8 +169,8 @@ void inputSection(const app::CalculationRecord& rec, const engine::ColumnResult&
         .line("Es", mpa(a.Es, 0), "MPa")
         .line("εyd", fixed(a.epsYd, 3), "‰");
 
-    const std::string tolerance = in.deltaC == 1     ? rec.project.words.tolerance10
-                                  : in.deltaC == 0.5 ? rec.project.words.tolerance5
+    const std::string tolerance = in.deltaC == 1     ? rec.text.words.tolerance10
+                                  : in.deltaC == 0.5 ? rec.text.words.tolerance5
                                                      : std::string();
     // Left empty in "Outros valores", the aggregate counts as 0: the cover and spacing
     // rules that depend on it then give way to the bar's, and the report says why.
@@ -194,7 +194,7 @@ void typedInputSection(const app::CalculationRecord& rec, Section& s)
 {
     Writer w(s);
     // A box left empty says so, rather than leave its unit alone.
-    for (const auto& box : rec.project.asTyped) {
+    for (const auto& box : rec.text.asTyped) {
         if (box.text.empty())
             w.line(box.label, "(vazia)");
         else
@@ -247,7 +247,7 @@ void designSection(const app::CalculationRecord& rec, const engine::ColumnResult
 std::string stirrupChoice(const app::CalculationRecord& rec, const engine::ColumnResult& r)
 {
     const engine::ColumnInput& in = rec.project.column;
-    const app::OptionWords& words = rec.project.words;
+    const app::OptionWords& words = rec.text.words;
     std::string how;
     switch (in.stirrupMode) {
     case engine::StirrupMode::Predefined:
@@ -525,8 +525,8 @@ bool buildReport(const app::CalculationRecord& rec, const ReportStamp& stamp, Re
         return false;
     }
     ReportData r;
-    r.project = projectName(rec.project.file);
-    const app::WorkHeading& h = rec.project.heading;
+    r.project = projectName(rec.text.file);
+    const app::WorkHeading& h = rec.text.heading;
     r.heading = {h.work, h.client, h.column, h.engineer, h.revision};
     r.stamp = stamp;
     r.verdict = rec.verdict;

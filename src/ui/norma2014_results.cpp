@@ -73,13 +73,13 @@ QLabel* Norma2014Results::valor(Linha linha, char direcao) const
 void Norma2014Results::mostra(const app::CalculationRecord& registro, bool desatualizado)
 {
     desatualizado_ = desatualizado;
-    const bool mostrar = registro.project.rules2014 && registro.result2014.has_value();
+    const bool mostrar = registro.project.rules2014() && registro.result2014.has_value();
     setVisible(mostrar);
     if (!mostrar)
         return;
     const engine::Column2014Result& r = *registro.result2014;
-    const double fm = unitFactor(registro.project.momentUnit).value_or(1);
-    const QString unidade = qs(registro.project.momentUnit);
+    const double fm = unitFactor(registro.project.units.moment).value_or(1);
+    const QString unidade = qs(registro.project.units.moment);
     rotulos_[M1dMin]->setText(QStringLiteral("M1d,mín (%1)").arg(unidade));
     rotulos_[M2d]->setText(QStringLiteral("M2d (%1)").arg(unidade));
     rotulos_[MdTot]->setText(QStringLiteral("Md,tot (%1)").arg(unidade));
@@ -116,7 +116,7 @@ void Norma2014Results::mostra(const app::CalculationRecord& registro, bool desat
         if (r.cases.size() > 1)
             resumo += QStringLiteral(", caso \"%1\"").arg(qs(g.loadCase.name));
         resumo += QStringLiteral("; γn = %1; %2.")
-                      .arg(numero(r.gammaN, "0.000"), registro.project.secondOrder == "rigidez"
+                      .arg(numero(r.gammaN, "0.000"), registro.project.slenderness.method == engine::SecondOrderMethod::ApproximateStiffness
                                                           ? QStringLiteral("rigidez κ")
                                                           : QStringLiteral("curvatura aproximada"));
         resumo_->setText(resumo);

@@ -27,11 +27,11 @@ QString casoDeterminanteTexto(const app::CalculationRecord& r)
 DiagramData dadosDoDiagrama(const app::CalculationRecord& r)
 {
     DiagramData d;
-    d.forceUnit = qs(r.project.forceUnit);
-    d.momentUnit = qs(r.project.momentUnit);
+    d.forceUnit = qs(r.project.units.force);
+    d.momentUnit = qs(r.project.units.moment);
     const auto& v = *r.verification;
-    const double fn = unitFactor(r.project.forceUnit).value_or(1);
-    const double fm = unitFactor(r.project.momentUnit).value_or(1);
+    const double fn = unitFactor(r.project.units.force).value_or(1);
+    const double fm = unitFactor(r.project.units.moment).value_or(1);
     for (const auto& [n, m] : v.curve)
         d.curve.emplace_back(m / fm, n / fn);
     if (r.cases.empty()) {

@@ -45,6 +45,7 @@ app::Project Program::projetoDoCalculo() const
     projeto.column = entradaDoCalculo();
     projeto.cases = casos2014();
     projeto.slenderness = esbeltez2014();
+    projeto.units = {Form1.Combo4.Text, Form1.Combo5.Text, Form1.Combo6.Text};
     return projeto;
 }
 

@@ -66,9 +66,10 @@ public:
     // The drawing of the section of the last detailed calculation.
     std::optional<engine::SectionGeometry> Desenho;
     unsigned VersaoDoDesenho = 0; // counts the changes of Desenho
-    // The last interactive calculation: what it was given, what it found, and the
-    // detailed section checked by strain compatibility. Cleared with the result boxes.
-    engine::ColumnInput Entrada;
+    // The last interactive calculation: the project it ran on (kept for the record and
+    // the search's details), what it found, and the detailed section checked by strain
+    // compatibility. The results are cleared with the result boxes.
+    app::Project ProjetoCalculado;
     std::optional<engine::ColumnResult> Resultado;
     std::optional<engine::Verification> Verificacao;
     // Under ABNT NBR 6118:2014: γn, both directions of every case, their areas and

@@ -181,9 +181,8 @@ void Program::programa0Passes()
 void Program::passeInterativo()
 {
     PerguntasDaJanela perguntas(*this);
-    const app::Project projeto = projetoDoCalculo();
-    Entrada = projeto.column;
-    const app::Calculation calculo = calculadora.calculate(projeto, perguntas);
+    ProjetoCalculado = projetoDoCalculo();
+    const app::Calculation calculo = calculadora.calculate(ProjetoCalculado, perguntas);
     Resultado = calculo.result;
     Verificacao = calculo.verification;
     Resultado2014 = calculo.result2014;

@@ -56,23 +56,17 @@ app::CalculationRecord Program::registroDoCalculo() const
     app::CalculationRecord r;
     r.number = CalculosFeitos;
 
-    app::ProjectInput& in = r.project;
-    in.file = NomeArquivo;
-    in.heading = {Obra.obra, Obra.cliente, Obra.pilar, Obra.engenheiro, Obra.revisao};
-    in.forceUnit = f.Combo4.Text;
-    in.momentUnit = f.Combo5.Text;
-    in.strengthUnit = f.Combo6.Text;
-    in.steelGrade = f.Combo1.Text;
-    in.ruleSet = f.Norma.Text;
-    in.rules2014 = norma2014();
-    in.secondOrder = f.SegundaOrdem.Text;
-    in.column = Entrada;
-    in.dLinhaAsTyped = DLinhaDigitado;
-    in.asTyped = boxesAsTyped(f);
-    in.words = {app::withoutAccessKey(f.Check3.Caption),   app::withoutAccessKey(f.Option1.Caption),
-                app::withoutAccessKey(f.Option2.Caption),  app::withoutAccessKey(f.Option3.Caption),
-                app::withoutAccessKey(f.Option5.Caption),  app::withoutAccessKey(f.Option6.Caption),
-                app::withoutAccessKey(f.Check5.Caption)};
+    r.project = ProjetoCalculado;
+    app::ProjectText& t = r.text;
+    t.file = NomeArquivo;
+    t.heading = {Obra.obra, Obra.cliente, Obra.pilar, Obra.engenheiro, Obra.revisao};
+    t.ruleSet = lists::norma.at(static_cast<std::size_t>(ProjetoCalculado.rules));
+    t.dLinhaAsTyped = DLinhaDigitado;
+    t.asTyped = boxesAsTyped(f);
+    t.words = {app::withoutAccessKey(f.Check3.Caption),   app::withoutAccessKey(f.Option1.Caption),
+               app::withoutAccessKey(f.Option2.Caption),  app::withoutAccessKey(f.Option3.Caption),
+               app::withoutAccessKey(f.Option5.Caption),  app::withoutAccessKey(f.Option6.Caption),
+               app::withoutAccessKey(f.Check5.Caption)};
     r.reading = static_cast<const WindowReading&>(*this);
 
     r.method = metodo();

@@ -20,11 +20,11 @@ std::vector<DetalheDaSolucao> detalhaSolucoes(const Program& p)
     for (const auto& c : p.ResultadosDosCasos)
         casos.emplace_back(c.Nd, c.Md);
     if (casos.empty())
-        casos.emplace_back(p.Entrada.Nd, p.Entrada.Md);
+        casos.emplace_back(p.ProjetoCalculado.column.Nd, p.ProjetoCalculado.column.Md);
     for (std::size_t i = 0; i < n; ++i) {
         const SolutionRow& s = p.Ordenadas[i];
         DetalheDaSolucao d;
-        engine::ColumnInput in = p.Entrada;
+        engine::ColumnInput in = p.ProjetoCalculado.column;
         in.barsOnWidthFace = static_cast<int>(s.nBase);
         in.barsOnDepthFace = static_cast<int>(s.nAltura);
         in.dLinha.automatic = false;
