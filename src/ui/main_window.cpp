@@ -52,7 +52,8 @@ MainWindow::MainWindow(DialogPort* dialogs, QWidget* parent) : QMainWindow(paren
     formularios_ = std::make_unique<WindowDialogs>(*this);
     arquivos_ = std::make_unique<FileActions>(*this);
 
-    formulario_ = new FormBinding({[this](bool digitacao) { entradaEditada(digitacao); }, [this] { calcula(); },
+    formulario_ = new FormBinding(program_->Form1,
+                                  {[this](bool digitacao) { entradaEditada(digitacao); }, [this] { calcula(); },
                                    [this](QWidget* w, const QString& motivo) { recusouTecla(w, motivo); },
                                    [this](const QString& motivo) { mostraNaBarra(motivo); }},
                                   this);
