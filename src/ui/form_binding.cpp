@@ -54,7 +54,7 @@ QLineEdit* FormBinding::caixa(TextBox& m, Teclas regra, int largura, const QStri
         e->setReadOnly(true);
     f->instala(e);
     if (digitavel(regra))
-        conferidas_->vigia(e, regra, rotuloCaixa);
+        conferidas_->vigia(e, regra, rotuloCaixa, oQueACaixaToma(form_, m, regra));
     caixas_.emplace_back(&m, e);
     rotulos_[e] = rotuloCaixa;
     if (!e->isReadOnly()) {
