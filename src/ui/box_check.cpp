@@ -4,29 +4,32 @@
 
 #include <QLineEdit>
 
+#include <utility>
+
 namespace pilarix::ui {
 
-QString oQueACaixaToma(const QString& nome, Teclas regra)
+QString oQueACaixaToma(const Form1Model& f, const TextBox& caixa, Teclas regra)
 {
-    static const std::map<QString, const char*> tabela = {
-        {QStringLiteral("Text1"), "a base é um número inteiro de centímetros"},
-        {QStringLiteral("Text2"), "a altura é um número inteiro de centímetros"},
-        {QStringLiteral("Text31"), "o passo da base é um número inteiro de centímetros, ou vazio"},
-        {QStringLiteral("Text32"), "o passo da altura é um número inteiro de centímetros, ou vazio"},
-        {QStringLiteral("Text4"), "o número de barras em cada face é inteiro"},
-        {QStringLiteral("Text5"), "o número de barras em cada face é inteiro"},
-        {QStringLiteral("Text23"), "o comprimento é um número positivo de centímetros (vírgula ou ponto decimal)"},
-        {QStringLiteral("Text3"), "d' é um número positivo de centímetros (vírgula ou ponto decimal), ou vazio"},
-        {QStringLiteral("Text16"), "Nd é um número (vírgula ou ponto decimal), com o sinal de menos na tração"},
-        {QStringLiteral("Text17"), "Md é um número sem sinal (vírgula ou ponto decimal)"},
-        {QStringLiteral("Text18"), "fck é um número positivo (vírgula ou ponto decimal)"},
-        {QStringLiteral("Text20"), "Es é um número positivo (vírgula ou ponto decimal)"},
-        {QStringLiteral("Text21"), "γc é um número positivo (vírgula ou ponto decimal)"},
-        {QStringLiteral("Text22"), "γs é um número positivo (vírgula ou ponto decimal)"},
-        {QStringLiteral("Text6"), "a escala é um número positivo de pixels por centímetro"},
+    static const std::pair<TextBox Form1Model::*, const char*> tabela[] = {
+        {&Form1Model::Text1, "a base é um número inteiro de centímetros"},
+        {&Form1Model::Text2, "a altura é um número inteiro de centímetros"},
+        {&Form1Model::Text31, "o passo da base é um número inteiro de centímetros, ou vazio"},
+        {&Form1Model::Text32, "o passo da altura é um número inteiro de centímetros, ou vazio"},
+        {&Form1Model::Text4, "o número de barras em cada face é inteiro"},
+        {&Form1Model::Text5, "o número de barras em cada face é inteiro"},
+        {&Form1Model::Text23, "o comprimento é um número positivo de centímetros (vírgula ou ponto decimal)"},
+        {&Form1Model::Text3, "d' é um número positivo de centímetros (vírgula ou ponto decimal), ou vazio"},
+        {&Form1Model::Text16, "Nd é um número (vírgula ou ponto decimal), com o sinal de menos na tração"},
+        {&Form1Model::Text17, "Md é um número sem sinal (vírgula ou ponto decimal)"},
+        {&Form1Model::Text18, "fck é um número positivo (vírgula ou ponto decimal)"},
+        {&Form1Model::Text20, "Es é um número positivo (vírgula ou ponto decimal)"},
+        {&Form1Model::Text21, "γc é um número positivo (vírgula ou ponto decimal)"},
+        {&Form1Model::Text22, "γs é um número positivo (vírgula ou ponto decimal)"},
+        {&Form1Model::Text6, "a escala é um número positivo de pixels por centímetro"},
     };
-    if (const auto it = tabela.find(nome); it != tabela.end())
-        return QString::fromUtf8(it->second);
+    for (const auto& [membro, oQue] : tabela)
+        if (&(f.*membro) == &caixa)
+            return QString::fromUtf8(oQue);
     switch (regra) {
     case Teclas::Inteiro:
         return QStringLiteral("a caixa toma um número inteiro");
@@ -60,9 +63,9 @@ BoxCheck::BoxCheck(std::function<void(const QString&)> avisa, QObject* parent)
 {
 }
 
-void BoxCheck::vigia(QLineEdit* e, Teclas regra, const QString& rotulo)
+void BoxCheck::vigia(QLineEdit* e, Teclas regra, const QString& rotulo, const QString& oQue)
 {
-    caixas_[e] = {regra, rotulo, oQueACaixaToma(e->objectName(), regra), {}, {}};
+    caixas_[e] = {regra, rotulo, oQue, {}, {}};
     ordem_.push_back(e);
     connect(e, &QLineEdit::textChanged, this, [this, e] { confere(e, true); });
     confere(e, false);

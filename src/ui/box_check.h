@@ -8,6 +8,7 @@
 // on show.
 
 #include "ui/key_filters.h"
+#include "window/forms.h"
 
 #include <QObject>
 #include <QString>
@@ -20,9 +21,9 @@ class QLineEdit;
 
 namespace pilarix::ui {
 
-// What a box takes, as its refusal says it ("a base é um número inteiro de
-// centímetros"), by the box's name; a general phrase for a box not in the table.
-QString oQueACaixaToma(const QString& nome, Teclas regra);
+// What a box of the main window takes, as its refusal says it ("a base é um número
+// inteiro de centímetros"); a general phrase for a box with no phrase of its own.
+QString oQueACaixaToma(const Form1Model& f, const TextBox& caixa, Teclas regra);
 
 // Why `texto` cannot be read as the box's number: empty when it can (an empty box
 // too: it is named when a calculation needs it). Integers are digits alone;
@@ -36,8 +37,9 @@ public:
     // `avisa` puts a refusal into the status bar.
     explicit BoxCheck(std::function<void(const QString&)> avisa, QObject* parent = nullptr);
 
-    // Checks `e` on every change of its text; `rotulo` names it in the messages.
-    void vigia(QLineEdit* e, Teclas regra, const QString& rotulo);
+    // Checks `e` on every change of its text; `rotulo` names it in the messages,
+    // `oQue` says what it takes (oQueACaixaToma).
+    void vigia(QLineEdit* e, Teclas regra, const QString& rotulo, const QString& oQue);
 
     // The first box refused, with the message that names it; none when every box can
     // be read.

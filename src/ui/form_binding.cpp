@@ -16,7 +16,8 @@ namespace pilarix::ui {
 
 using namespace window_parts;
 
-FormBinding::FormBinding(Callbacks callbacks, QObject* parent) : QObject(parent), callbacks_(std::move(callbacks))
+FormBinding::FormBinding(Form1Model& form, Callbacks callbacks, QObject* parent)
+    : QObject(parent), form_(form), callbacks_(std::move(callbacks))
 {
     auto recusa = [this](QWidget* w, const QString& motivo) { callbacks_.recusou(w, motivo); };
     filtroInteiro_ = new KeyFilter(Teclas::Inteiro, recusa, this);
@@ -27,10 +28,21 @@ FormBinding::FormBinding(Callbacks callbacks, QObject* parent) : QObject(parent)
     conferidas_ = new BoxCheck([this](const QString& motivo) { callbacks_.avisa(motivo); }, this);
 }
 
-QLineEdit* FormBinding::caixa(TextBox& m, const QString& nome, Teclas regra, int largura, const QString& rotuloCaixa)
+namespace {
+QString texto(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
+} // namespace
+
+QString nomeDoWidget(const Form1Model& f, Controle::Alvo controle) { return texto(nomeDoControle(f, controle)); }
+
+QString nomeDoWidget(const Form8Model& f, Controle::Alvo controle)
+{
+    return texto(nomeNoForm(nomeDoControle(f, controle)));
+}
+
+QLineEdit* FormBinding::caixa(TextBox& m, Teclas regra, int largura, const QString& rotuloCaixa)
 {
     auto* e = new QLineEdit;
-    e->setObjectName(nome);
+    e->setObjectName(nomeDoWidget(form_, &m));
     e->setFixedWidth(largura);
     e->setAlignment(Qt::AlignRight);
     KeyFilter* f = regra == Teclas::Inteiro           ? filtroInteiro_
@@ -42,7 +54,7 @@ QLineEdit* FormBinding::caixa(TextBox& m, const QString& nome, Teclas regra, int
         e->setReadOnly(true);
     f->instala(e);
     if (digitavel(regra))
-        conferidas_->vigia(e, regra, rotuloCaixa);
+        conferidas_->vigia(e, regra, rotuloCaixa, oQueACaixaToma(form_, m, regra));
     caixas_.emplace_back(&m, e);
     rotulos_[e] = rotuloCaixa;
     if (!e->isReadOnly()) {
@@ -53,10 +65,10 @@ QLineEdit* FormBinding::caixa(TextBox& m, const QString& nome, Teclas regra, int
     return e;
 }
 
-QLineEdit* FormBinding::resultado(TextBox& m, const QString& nome, int largura)
+QLineEdit* FormBinding::resultado(TextBox& m, int largura)
 {
     auto* e = new QLineEdit;
-    e->setObjectName(nome);
+    e->setObjectName(nomeDoWidget(form_, &m));
     e->setReadOnly(true);
     e->setFocusPolicy(Qt::ClickFocus);
     e->setAlignment(Qt::AlignRight);
@@ -68,10 +80,10 @@ QLineEdit* FormBinding::resultado(TextBox& m, const QString& nome, int largura)
     return e;
 }
 
-QComboBox* FormBinding::lista(ComboBox& m, const QString& nome, const QString& rotuloLista)
+QComboBox* FormBinding::lista(ComboBox& m, const QString& rotuloLista)
 {
     auto* c = new QComboBox;
-    c->setObjectName(nome);
+    c->setObjectName(nomeDoWidget(form_, &m));
     c->setEditable(false);
     // The model's text is the item's data: a list may word its entries for the
     // engineer ("rigidez κ") and still keep the program's text.
@@ -84,19 +96,19 @@ QComboBox* FormBinding::lista(ComboBox& m, const QString& nome, const QString& r
     return c;
 }
 
-QCheckBox* FormBinding::marca(CheckBox& m, const QString& nome, const QString& texto)
+QCheckBox* FormBinding::marca(CheckBox& m, const QString& texto)
 {
     auto* c = new QCheckBox(texto);
-    c->setObjectName(nome);
+    c->setObjectName(nomeDoWidget(form_, &m));
     marcas_.emplace_back(&m, c);
     connect(c, &QCheckBox::stateChanged, this, [this] { callbacks_.editou(false); });
     return c;
 }
 
-QRadioButton* FormBinding::opcao(OptionButton& m, const QString& nome)
+QRadioButton* FormBinding::opcao(OptionButton& m)
 {
     auto* r = new QRadioButton(qs(m.Caption));
-    r->setObjectName(nome);
+    r->setObjectName(nomeDoWidget(form_, &m));
     opcoes_.emplace_back(&m, r);
     connect(r, &QRadioButton::toggled, this, [this] { callbacks_.editou(false); });
     return r;

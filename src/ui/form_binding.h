@@ -2,8 +2,11 @@
 // The binding of the main window's widgets to the controls of the form model, both
 // ways: each widget is made with its control, its key filter, its check and the
 // label a message gives it; the widgets' values are copied into the model before a
-// handler of the program runs, and painted from it after.
+// handler of the program runs, and painted from it after. A widget of a control the
+// table of controls holds (window/control_table.h) takes its object name from there;
+// only a button, which the table does not hold, is named where it is made.
 
+#include "window/control_table.h"
 #include "window/program.h"
 #include "ui/key_filters.h"
 
@@ -26,6 +29,12 @@ namespace pilarix::ui {
 
 class BoxCheck;
 
+// A widget's object name: the name the table of controls gives its control on the
+// main window ("Text16", "Option7(1)"), or on the dialog "Outros valores" ("Text1"
+// for the table's "Form8.Text1"); empty for a control the table does not hold.
+QString nomeDoWidget(const Form1Model& f, Controle::Alvo controle);
+QString nomeDoWidget(const Form8Model& f, Controle::Alvo controle);
+
 class FormBinding : public QObject {
 public:
     struct Callbacks {
@@ -34,13 +43,14 @@ public:
         std::function<void(QWidget*, const QString&)> recusou;  // a key or a paste refused
         std::function<void(const QString&)> avisa;              // a box's text the program cannot read
     };
-    FormBinding(Callbacks callbacks, QObject* parent);
+    // `form`: the main window's controls, which the widgets are made for.
+    FormBinding(Form1Model& form, Callbacks callbacks, QObject* parent);
 
-    QLineEdit* caixa(TextBox& m, const QString& nome, Teclas regra, int largura, const QString& rotulo);
-    QLineEdit* resultado(TextBox& m, const QString& nome, int largura);
-    QComboBox* lista(ComboBox& m, const QString& nome, const QString& rotulo);
-    QCheckBox* marca(CheckBox& m, const QString& nome, const QString& texto);
-    QRadioButton* opcao(OptionButton& m, const QString& nome);
+    QLineEdit* caixa(TextBox& m, Teclas regra, int largura, const QString& rotulo);
+    QLineEdit* resultado(TextBox& m, int largura);
+    QComboBox* lista(ComboBox& m, const QString& rotulo);
+    QCheckBox* marca(CheckBox& m, const QString& texto);
+    QRadioButton* opcao(OptionButton& m);
     QPushButton* botao(CommandButton& m, const QString& nome, std::function<void()> acao);
     // Buttons of one frame: at most one of them is chosen.
     void agrupa(std::vector<QRadioButton*> grupo) { grupos_.push_back(std::move(grupo)); }
@@ -57,6 +67,7 @@ public:
     void pintaOutros();
 
 private:
+    Form1Model& form_;
     Callbacks callbacks_;
     KeyFilter* filtroInteiro_;
     KeyFilter* filtroDecimal_;

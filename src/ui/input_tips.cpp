@@ -1,5 +1,7 @@
 #include "ui/input_tips.h"
 
+#include "ui/form_binding.h"
+
 #include <QLineEdit>
 #include <QWidget>
 
@@ -7,57 +9,66 @@
 
 namespace pilarix::ui {
 
-void aplicaDicas(QWidget* centro, const std::array<QLineEdit*, 8>& bitolas)
+void aplicaDicas(QWidget* centro, Form1Model& f, const std::array<QLineEdit*, 8>& bitolas)
 {
     // Every input says what it is, its unit and its limits.
-    const std::pair<const char*, const char*> dicas[] = {
-        {"Text1", "Base b da seção: a largura das faces com as barras de \"Base\". Em cm, inteiro; "
-                  "o mínimo é 12 cm (um valor menor é corrigido para 12)."},
-        {"Text2", "Altura h da seção, na direção do momento Md. Em cm, inteiro; o mínimo é 12 cm."},
-        {"Text23", "Comprimento do pilar, em cm: dá o peso do aço."},
-        {"Text31", "Passo dos botões - e + da base, em cm (vazio: os botões não mudam a base)."},
-        {"Text32", "Passo dos botões - e + da altura, em cm (vazio: os botões não mudam a altura)."},
-        {"Text4", "Número de barras em cada face de largura b, cantos incluídos (2 no mínimo). Mais barras do "
-                  "que cabem, a 5 cm entre eixos, são corrigidas para o máximo."},
-        {"Text5", "Número de barras em cada face de altura h, cantos incluídos (2 no mínimo). Mais barras do "
-                  "que cabem, a 5 cm entre eixos, são corrigidas para o máximo."},
-        {"Text3", "d': distância da face ao centro das barras, em cm. Vazio ou pequeno demais, o cálculo "
-                  "pergunta pelo cobrimento e o corrige."},
-        {"Check3", "Marcado: d' é calculado a partir do cobrimento (começa em 3 cm e segue as correções do "
-                   "cobrimento); a caixa d' mostra o valor encontrado."},
+    const std::pair<Controle::Alvo, const char*> dasEntradas[] = {
+        {&f.Text1, "Base b da seção: a largura das faces com as barras de \"Base\". Em cm, inteiro; "
+                   "o mínimo é 12 cm (um valor menor é corrigido para 12)."},
+        {&f.Text2, "Altura h da seção, na direção do momento Md. Em cm, inteiro; o mínimo é 12 cm."},
+        {&f.Text23, "Comprimento do pilar, em cm: dá o peso do aço."},
+        {&f.Text31, "Passo dos botões - e + da base, em cm (vazio: os botões não mudam a base)."},
+        {&f.Text32, "Passo dos botões - e + da altura, em cm (vazio: os botões não mudam a altura)."},
+        {&f.Text4, "Número de barras em cada face de largura b, cantos incluídos (2 no mínimo). Mais barras do "
+                   "que cabem, a 5 cm entre eixos, são corrigidas para o máximo."},
+        {&f.Text5, "Número de barras em cada face de altura h, cantos incluídos (2 no mínimo). Mais barras do "
+                   "que cabem, a 5 cm entre eixos, são corrigidas para o máximo."},
+        {&f.Text3, "d': distância da face ao centro das barras, em cm. Vazio ou pequeno demais, o cálculo "
+                   "pergunta pelo cobrimento e o corrige."},
+        {&f.Check3, "Marcado: d' é calculado a partir do cobrimento (começa em 3 cm e segue as correções do "
+                    "cobrimento); a caixa d' mostra o valor encontrado."},
+        {&f.Text16, "Nd: força normal de cálculo, compressão positiva (tração com o sinal de menos), na "
+                    "unidade ao lado."},
+        {&f.Combo4, "Unidade de Nd."},
+        {&f.Text17, "Md: momento fletor de cálculo, na unidade ao lado (sem sinal)."},
+        {&f.Combo5, "Unidade de Md."},
+        {&f.Text18, "Fck: resistência característica do concreto à compressão, na unidade ao lado. A norma "
+                    "abrange de 20 a 50 MPa; fora disso o cálculo avisa."},
+        {&f.Combo6, "Unidade de Fck."},
+        {&f.Text20, "Es: módulo de elasticidade do aço, na unidade ao lado (usual: 21000 KN/cm2); maior que zero."},
+        {&f.Combo7, "Unidade de Es."},
+        {&f.Text21, "γc: coeficiente de minoração da resistência do concreto (usual: 1.4); maior que zero."},
+        {&f.Text22, "γs: coeficiente de minoração da resistência do aço (usual: 1.15); maior que zero."},
+        {&f.Combo1, "Categoria do aço das barras longitudinais."},
+        {&f.Option1, "Tolerância de execução Δc = 10 mm, somada ao cobrimento mínimo da classe."},
+        {&f.Option2, "Tolerância de execução Δc = 5 mm (controle rígido), somada ao cobrimento mínimo da classe."},
+        {&f.Combo2, "Classe de agressividade ambiental, de I a IV: dá o cobrimento nominal."},
+        {&f.Check1, "Marcado: as correções do cobrimento e de d' são feitas sem perguntar."},
+        {&f.Check2, "Marcado: o cálculo escolhe a menor bitola que atende à área de aço. Desmarcado: um clique "
+                    "numa bitola a fixa para o cálculo."},
+        {&f.Option3, "Estribo pré-definido: o diâmetro da lista ao lado."},
+        {&f.Combo3, "Diâmetro do estribo pré-definido."},
+        {&f.EstriboDiametro, "Com \"Definir manualmente\": o diâmetro do estribo. Com o espaçamento, o cálculo usa "
+                             "este estribo sem perguntar e a verificação diz se ele fere alguma regra; vazio, o "
+                             "estribo é escolhido durante o cálculo."},
+        {&f.EstriboEspacamento, "Com \"Definir manualmente\": o espaçamento do estribo em cm (maior que 0 e no "
+                                "máximo 100). Vazio, o estribo é escolhido durante o cálculo."},
+        {&f.Option5, "O estribo de menor consumo de aço por metro."},
+        {&f.Option6, "O cálculo mostra as opções de estribo e pergunta qual usar."},
+        {&f.Check5, "Marcado: os estribos são do mesmo aço das barras longitudinais."},
+        {&f.Option7[1], "Gancho em ângulo reto (90°)."},
+        {&f.Option7[0], "Gancho a 45° ou semicircular."},
+        {&f.Text6, "Escala do desenho exportado em SVG e PNG, em pixels por centímetro da seção; maior que zero."},
+    };
+    for (const auto& [controle, dica] : dasEntradas) {
+        // An empty name would find any widget.
+        const QString nome = nomeDoWidget(f, controle);
+        if (auto* w = nome.isEmpty() ? nullptr : centro->findChild<QWidget*>(nome))
+            w->setToolTip(QString::fromUtf8(dica));
+    }
+    // The buttons, which the table of controls does not hold, by their own names.
+    const std::pair<const char*, const char*> dosBotoes[] = {
         {"Command17", "Estima d' a partir do estribo, da barra e do cobrimento."},
-        {"Text16", "Nd: força normal de cálculo, compressão positiva (tração com o sinal de menos), na "
-                   "unidade ao lado."},
-        {"Combo4", "Unidade de Nd."},
-        {"Text17", "Md: momento fletor de cálculo, na unidade ao lado (sem sinal)."},
-        {"Combo5", "Unidade de Md."},
-        {"Text18", "Fck: resistência característica do concreto à compressão, na unidade ao lado. A norma "
-                   "abrange de 20 a 50 MPa; fora disso o cálculo avisa."},
-        {"Combo6", "Unidade de Fck."},
-        {"Text20", "Es: módulo de elasticidade do aço, na unidade ao lado (usual: 21000 KN/cm2); maior que zero."},
-        {"Combo7", "Unidade de Es."},
-        {"Text21", "γc: coeficiente de minoração da resistência do concreto (usual: 1.4); maior que zero."},
-        {"Text22", "γs: coeficiente de minoração da resistência do aço (usual: 1.15); maior que zero."},
-        {"Combo1", "Categoria do aço das barras longitudinais."},
-        {"Option1", "Tolerância de execução Δc = 10 mm, somada ao cobrimento mínimo da classe."},
-        {"Option2", "Tolerância de execução Δc = 5 mm (controle rígido), somada ao cobrimento mínimo da classe."},
-        {"Combo2", "Classe de agressividade ambiental, de I a IV: dá o cobrimento nominal."},
-        {"Check1", "Marcado: as correções do cobrimento e de d' são feitas sem perguntar."},
-        {"Check2", "Marcado: o cálculo escolhe a menor bitola que atende à área de aço. Desmarcado: um clique "
-                   "numa bitola a fixa para o cálculo."},
-        {"Option3", "Estribo pré-definido: o diâmetro da lista ao lado."},
-        {"Combo3", "Diâmetro do estribo pré-definido."},
-        {"EstriboDiametro", "Com \"Definir manualmente\": o diâmetro do estribo. Com o espaçamento, o cálculo usa "
-                            "este estribo sem perguntar e a verificação diz se ele fere alguma regra; vazio, o "
-                            "estribo é escolhido durante o cálculo."},
-        {"EstriboEspacamento", "Com \"Definir manualmente\": o espaçamento do estribo em cm (maior que 0 e no "
-                               "máximo 100). Vazio, o estribo é escolhido durante o cálculo."},
-        {"Option5", "O estribo de menor consumo de aço por metro."},
-        {"Option6", "O cálculo mostra as opções de estribo e pergunta qual usar."},
-        {"Check5", "Marcado: os estribos são do mesmo aço das barras longitudinais."},
-        {"Option7(1)", "Gancho em ângulo reto (90°)."},
-        {"Option7(0)", "Gancho a 45° ou semicircular."},
-        {"Text6", "Escala do desenho exportado em SVG e PNG, em pixels por centímetro da seção; maior que zero."},
         {"Command1", "Calcula o pilar com os valores da janela (Enter numa caixa faz o mesmo)."},
         {"Command8", "Procura o arranjo de barras e estribo mais leve que passa em todas as verificações."},
         {"Command9", "Próxima solução"},
@@ -74,7 +85,7 @@ void aplicaDicas(QWidget* centro, const std::array<QLineEdit*, 8>& bitolas)
         {"Command5", "Uma barra a menos em cada face da altura (2 no mínimo) e calcula."},
         {"Command4", "Uma barra a mais em cada face da altura e calcula."},
     };
-    for (const auto& [nome, dica] : dicas)
+    for (const auto& [nome, dica] : dosBotoes)
         if (auto* w = centro->findChild<QWidget*>(QString::fromUtf8(nome)))
             w->setToolTip(QString::fromUtf8(dica));
     for (auto* e : bitolas)

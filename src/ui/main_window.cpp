@@ -52,7 +52,8 @@ MainWindow::MainWindow(DialogPort* dialogs, QWidget* parent) : QMainWindow(paren
     formularios_ = std::make_unique<WindowDialogs>(*this);
     arquivos_ = std::make_unique<FileActions>(*this);
 
-    formulario_ = new FormBinding({[this](bool digitacao) { entradaEditada(digitacao); }, [this] { calcula(); },
+    formulario_ = new FormBinding(program_->Form1,
+                                  {[this](bool digitacao) { entradaEditada(digitacao); }, [this] { calcula(); },
                                    [this](QWidget* w, const QString& motivo) { recusouTecla(w, motivo); },
                                    [this](const QString& motivo) { mostraNaBarra(motivo); }},
                                   this);
@@ -228,18 +229,33 @@ void MainWindow::montaMenus()
 void MainWindow::montaOrdemDeTab()
 {
     // Tab follows the reading order of the frames, from box to box; the "-" / "+"
-    // buttons and the bar list are for the mouse.
-    const char* ordem[] = {
-        "Norma", "Text1",   "Text31",  "Text2",    "Text32",   "Text23",   "Text4",    "Text5",  "Text3",
-        "Command17", "Check3", "Text16",  "Combo4",   "Text17",   "Combo5",   "Text18", "Combo6",
-        "Text20",  "Combo7",  "Text21",   "Text22",   "Combo1", "SegundaOrdem", "LeH", "LeB", "MyTopo", "MdBase", "MyBase",   "Option1",  "Option2", "Combo2",
-        "Check1",  "Check2",  "Option3",  "Combo3",   "Option5",  "Option6", "EstriboDiametro", "EstriboEspacamento", "Check5", "Option7(1)",
-        "Option7(0)", "Text6", "AjustarDesenho", "Command1", "Command8", "Command10", "Command9", "Command11",
-        "Command7", "Command6",
+    // buttons and the bar list are for the mouse. An input by its control, a button by
+    // its own name.
+    auto& f = program_->Form1;
+    const auto c = [&f](Controle::Alvo controle) { return nomeDoWidget(f, controle); };
+    const QString ordem[] = {
+        c(&f.Norma),
+        // "Dimensões" and "Arranjo"
+        c(&f.Text1), c(&f.Text31), c(&f.Text2), c(&f.Text32), c(&f.Text23),
+        c(&f.Text4), c(&f.Text5), c(&f.Text3), QStringLiteral("Command17"), c(&f.Check3),
+        // "Esforços e Resistências", then the frame of 2014
+        c(&f.Text16), c(&f.Combo4), c(&f.Text17), c(&f.Combo5), c(&f.Text18), c(&f.Combo6),
+        c(&f.Text20), c(&f.Combo7), c(&f.Text21), c(&f.Text22), c(&f.Combo1),
+        c(&f.SegundaOrdem), c(&f.LeH), c(&f.LeB), c(&f.MyTopo), c(&f.MdBase), c(&f.MyBase),
+        // "Cobrimento", "Bitola", "Estribos" and "Ganchos"
+        c(&f.Option1), c(&f.Option2), c(&f.Combo2), c(&f.Check1), c(&f.Check2),
+        c(&f.Option3), c(&f.Combo3), c(&f.Option5), c(&f.Option6),
+        c(&f.EstriboDiametro), c(&f.EstriboEspacamento), c(&f.Check5),
+        c(&f.Option7[1]), c(&f.Option7[0]),
+        // The drawing and the row of buttons
+        c(&f.Text6), QStringLiteral("AjustarDesenho"),
+        QStringLiteral("Command1"), QStringLiteral("Command8"), QStringLiteral("Command10"), QStringLiteral("Command9"),
+        QStringLiteral("Command11"), QStringLiteral("Command7"), QStringLiteral("Command6"),
     };
     QWidget* anterior = nullptr;
-    for (const char* nome : ordem) {
-        auto* w = centralWidget()->findChild<QWidget*>(QString::fromUtf8(nome));
+    for (const QString& nome : ordem) {
+        // An empty name would find any widget.
+        auto* w = nome.isEmpty() ? nullptr : centralWidget()->findChild<QWidget*>(nome);
         if (w && anterior)
             setTabOrder(anterior, w);
         if (w)
@@ -247,7 +263,7 @@ void MainWindow::montaOrdemDeTab()
     }
 }
 
-void MainWindow::montaDicas() { aplicaDicas(centralWidget(), bitolas_); }
+void MainWindow::montaDicas() { aplicaDicas(centralWidget(), program_->Form1, bitolas_); }
 
 // ---- model <-> widgets ----
 

@@ -26,10 +26,10 @@ constexpr const char* kGamaC2014 = "1.4";
 void MainWindow::montaNorma2014(QBoxLayout* entradas)
 {
     FabricaDeEntradas fabrica{
-        [this](TextBox& m, const QString& nome, Teclas regra, int largura, const QString& rotulo) {
-            return formulario_->caixa(m, nome, regra, largura, rotulo);
+        [this](TextBox& m, Teclas regra, int largura, const QString& rotulo) {
+            return formulario_->caixa(m, regra, largura, rotulo);
         },
-        [this](ComboBox& m, const QString& nome, const QString& rotulo) { return formulario_->lista(m, nome, rotulo); }};
+        [this](ComboBox& m, const QString& rotulo) { return formulario_->lista(m, rotulo); }};
     norma2014_ = new Norma2014Panel(program_->Form1, fabrica);
     // The rule set heads the input; its frame goes below the options, where a
     // 1366 × 768 screen still has room (montaOpcoes).

@@ -51,9 +51,9 @@ QWidget* MainWindow::montaEntradas()
     auto* dim = quadro("Dimensões", "Frame1");
     auto* g = new QGridLayout(dim);
     g->setHorizontalSpacing(4);
-    auto* t1 = formulario_->caixa(f.Text1, QStringLiteral("Text1"), Teclas::Inteiro, 56, QStringLiteral("Base (cm)"));
-    auto* t2 = formulario_->caixa(f.Text2, QStringLiteral("Text2"), Teclas::Inteiro, 56, QStringLiteral("Altura (cm)"));
-    auto* t23 = formulario_->caixa(f.Text23, QStringLiteral("Text23"), Teclas::Decimal, 56, QStringLiteral("Comprimento (cm)"));
+    auto* t1 = formulario_->caixa(f.Text1, Teclas::Inteiro, 56, QStringLiteral("Base (cm)"));
+    auto* t2 = formulario_->caixa(f.Text2, Teclas::Inteiro, 56, QStringLiteral("Altura (cm)"));
+    auto* t23 = formulario_->caixa(f.Text23, Teclas::Decimal, 56, QStringLiteral("Comprimento (cm)"));
     auto* passoRotulo = rotulo(QStringLiteral("passo"));
     passoRotulo->setAlignment(Qt::AlignCenter);
     g->addWidget(passoRotulo, 0, 5);
@@ -61,14 +61,12 @@ QWidget* MainWindow::montaEntradas()
     g->addWidget(t1, 1, 1);
     g->addWidget(passo(f.Command13, QStringLiteral("Command13"), &Program::Command13_Click, &f.Text31), 1, 2);
     g->addWidget(passo(f.Command16, QStringLiteral("Command16"), &Program::Command16_Click, &f.Text31), 1, 3);
-    g->addWidget(formulario_->caixa(f.Text31, QStringLiteral("Text31"), Teclas::Inteiro, 40, QStringLiteral("Passo da base")), 1,
-                 5);
+    g->addWidget(formulario_->caixa(f.Text31, Teclas::Inteiro, 40, QStringLiteral("Passo da base")), 1, 5);
     g->addWidget(rotulo(QStringLiteral("Altura (cm)"), t2), 2, 0);
     g->addWidget(t2, 2, 1);
     g->addWidget(passo(f.Command14, QStringLiteral("Command14"), &Program::Command14_Click, &f.Text32), 2, 2);
     g->addWidget(passo(f.Command15, QStringLiteral("Command15"), &Program::Command15_Click, &f.Text32), 2, 3);
-    g->addWidget(formulario_->caixa(f.Text32, QStringLiteral("Text32"), Teclas::Inteiro, 40, QStringLiteral("Passo da altura")),
-                 2, 5);
+    g->addWidget(formulario_->caixa(f.Text32, Teclas::Inteiro, 40, QStringLiteral("Passo da altura")), 2, 5);
     g->addWidget(rotulo(QStringLiteral("Comprimento (cm)"), t23), 3, 0);
     g->addWidget(t23, 3, 1);
     g->setColumnStretch(4, 1);
@@ -78,10 +76,9 @@ QWidget* MainWindow::montaEntradas()
     auto* arr = quadro("Arranjo", "Frame2");
     auto* ga = new QGridLayout(arr);
     ga->setHorizontalSpacing(4);
-    auto* t4 = formulario_->caixa(f.Text4, QStringLiteral("Text4"), Teclas::Inteiro, 56, QStringLiteral("Barras nas faces da base"));
-    auto* t5 =
-        formulario_->caixa(f.Text5, QStringLiteral("Text5"), Teclas::Inteiro, 56, QStringLiteral("Barras nas faces da altura"));
-    auto* t3 = formulario_->caixa(f.Text3, QStringLiteral("Text3"), Teclas::Decimal, 72, QStringLiteral("d' (cm)"));
+    auto* t4 = formulario_->caixa(f.Text4, Teclas::Inteiro, 56, QStringLiteral("Barras nas faces da base"));
+    auto* t5 = formulario_->caixa(f.Text5, Teclas::Inteiro, 56, QStringLiteral("Barras nas faces da altura"));
+    auto* t3 = formulario_->caixa(f.Text3, Teclas::Decimal, 72, QStringLiteral("d' (cm)"));
     ga->addWidget(rotulo(QStringLiteral("n   de barras nas faces:")), 0, 0, 1, 5);
     ga->addWidget(rotulo(QStringLiteral("Base"), t4), 1, 0);
     ga->addWidget(t4, 1, 1);
@@ -95,7 +92,7 @@ QWidget* MainWindow::montaEntradas()
     ga->addWidget(t3, 3, 1);
     auto* estimar = formulario_->botao(f.Command17, QStringLiteral("Command17"), [this] { abreEstimativaDLinha(); });
     ga->addWidget(estimar, 3, 2, 1, 4);
-    auto* c3 = formulario_->marca(f.Check3, QStringLiteral("Check3"), qs(f.Check3.Caption));
+    auto* c3 = formulario_->marca(f.Check3, qs(f.Check3.Caption));
     connect(c3, &QCheckBox::clicked, this, &MainWindow::marcouDLinhaAutomatico);
     ga->addWidget(c3, 4, 0, 1, 6);
     ga->setColumnStretch(5, 1);
@@ -108,36 +105,33 @@ QWidget* MainWindow::montaEntradas()
     struct Linha {
         const char* rotulo;
         TextBox* caixa;
-        const char* nomeCaixa;
         Teclas regra;
         ComboBox* lista;
-        const char* nomeLista;
     };
     const Linha linhas[] = {
-        {"Nd", &f.Text16, "Text16", Teclas::DecimalComSinal, &f.Combo4, "Combo4"},
-        {"Md", &f.Text17, "Text17", Teclas::Decimal, &f.Combo5, "Combo5"},
-        {"Fck", &f.Text18, "Text18", Teclas::Decimal, &f.Combo6, "Combo6"},
-        {"Es", &f.Text20, "Text20", Teclas::Decimal, &f.Combo7, "Combo7"},
+        {"Nd", &f.Text16, Teclas::DecimalComSinal, &f.Combo4},
+        {"Md", &f.Text17, Teclas::Decimal, &f.Combo5},
+        {"Fck", &f.Text18, Teclas::Decimal, &f.Combo6},
+        {"Es", &f.Text20, Teclas::Decimal, &f.Combo7},
     };
     int linha = 0;
     for (const auto& l : linhas) {
         const QString nome = QString::fromUtf8(l.rotulo);
-        auto* e = formulario_->caixa(*l.caixa, QString::fromUtf8(l.nomeCaixa), l.regra, 72, nome);
+        auto* e = formulario_->caixa(*l.caixa, l.regra, 72, nome);
         ge->addWidget(rotulo(nome, e), linha, 0);
         ge->addWidget(e, linha, 1);
-        ge->addWidget(formulario_->lista(*l.lista, QString::fromUtf8(l.nomeLista), QStringLiteral("Unidade de ") + nome), linha,
-                      2);
+        ge->addWidget(formulario_->lista(*l.lista, QStringLiteral("Unidade de ") + nome), linha, 2);
         ++linha;
     }
-    auto* t21 = formulario_->caixa(f.Text21, QStringLiteral("Text21"), Teclas::Decimal, 72, QStringLiteral("γc"));
-    auto* t22 = formulario_->caixa(f.Text22, QStringLiteral("Text22"), Teclas::Decimal, 72, QStringLiteral("γs"));
+    auto* t21 = formulario_->caixa(f.Text21, Teclas::Decimal, 72, QStringLiteral("γc"));
+    auto* t22 = formulario_->caixa(f.Text22, Teclas::Decimal, 72, QStringLiteral("γs"));
     ge->addWidget(rotulo(QStringLiteral("γc"), t21), linha, 0);
     ge->addWidget(t21, linha, 1);
     ge->addWidget(rotulo(QStringLiteral("coef. do concreto")), linha++, 2);
     ge->addWidget(rotulo(QStringLiteral("γs"), t22), linha, 0);
     ge->addWidget(t22, linha, 1);
     ge->addWidget(rotulo(QStringLiteral("coef. do aço")), linha++, 2);
-    auto* c1 = formulario_->lista(f.Combo1, QStringLiteral("Combo1"), QStringLiteral("Aço"));
+    auto* c1 = formulario_->lista(f.Combo1, QStringLiteral("Aço"));
     ge->addWidget(rotulo(QStringLiteral("Aço"), c1), linha, 0);
     ge->addWidget(c1, linha, 1, 1, 2);
     ge->setColumnStretch(2, 1);
@@ -157,12 +151,12 @@ QWidget* MainWindow::montaOpcoes()
 
     auto* cob = quadro("Cobrimento", "Frame4");
     auto* gc = new QVBoxLayout(cob);
-    auto* o1 = formulario_->opcao(f.Option1, QStringLiteral("Option1"));
-    auto* o2 = formulario_->opcao(f.Option2, QStringLiteral("Option2"));
+    auto* o1 = formulario_->opcao(f.Option1);
+    auto* o2 = formulario_->opcao(f.Option2);
     formulario_->agrupa({o1, o2});
     gc->addWidget(o1);
     gc->addWidget(o2);
-    auto* c2 = formulario_->lista(f.Combo2, QStringLiteral("Combo2"), QStringLiteral("Classe de agressividade ambiental"));
+    auto* c2 = formulario_->lista(f.Combo2, QStringLiteral("Classe de agressividade ambiental"));
     c2->setFixedWidth(64);
     auto* classe = rotulo(QStringLiteral("Classe de agressividade ambiental"), c2);
     classe->setWordWrap(true);
@@ -170,7 +164,7 @@ QWidget* MainWindow::montaOpcoes()
     linhaClasse->addWidget(classe, 1);
     linhaClasse->addWidget(c2);
     gc->addLayout(linhaClasse);
-    gc->addWidget(formulario_->marca(f.Check1, QStringLiteral("Check1"), QStringLiteral("Corrigir o cobrimento sem perguntar")));
+    gc->addWidget(formulario_->marca(f.Check1, QStringLiteral("Corrigir o cobrimento sem perguntar")));
     v->addWidget(cob);
 
     // "Bitola (mm)": the eight catalogue bars, the one of the result highlighted;
@@ -180,8 +174,8 @@ QWidget* MainWindow::montaOpcoes()
     gb->setHorizontalSpacing(4);
     for (int i = 0; i < 8; ++i) {
         const auto k = static_cast<std::size_t>(i);
-        auto* e = formulario_->caixa(f.Text7[k], QStringLiteral("Text7(%1)").arg(i), Teclas::Bitola, 48,
-                        QStringLiteral("Bitola %1 mm").arg(qs(f.Text7[k].Text)));
+        auto* e =
+            formulario_->caixa(f.Text7[k], Teclas::Bitola, 48, QStringLiteral("Bitola %1 mm").arg(qs(f.Text7[k].Text)));
         e->setAlignment(Qt::AlignCenter);
         e->setFocusPolicy(Qt::ClickFocus);
         e->setCursor(Qt::PointingHandCursor);
@@ -189,17 +183,17 @@ QWidget* MainWindow::montaOpcoes()
         bitolas_[k] = e;
         gb->addWidget(e, i / 4, i % 4);
     }
-    gb->addWidget(formulario_->marca(f.Check2, QStringLiteral("Check2"), qs(f.Check2.Caption)), 2, 0, 1, 4);
+    gb->addWidget(formulario_->marca(f.Check2, qs(f.Check2.Caption)), 2, 0, 1, 4);
     v->addWidget(bit);
 
     auto* est = quadro("Estribos", "Frame6");
     auto* ge = new QGridLayout(est);
-    auto* o3 = formulario_->opcao(f.Option3, QStringLiteral("Option3"));
-    auto* o5 = formulario_->opcao(f.Option5, QStringLiteral("Option5"));
-    auto* o6 = formulario_->opcao(f.Option6, QStringLiteral("Option6"));
+    auto* o3 = formulario_->opcao(f.Option3);
+    auto* o5 = formulario_->opcao(f.Option5);
+    auto* o6 = formulario_->opcao(f.Option6);
     formulario_->agrupa({o3, o5, o6});
     ge->addWidget(o3, 0, 0);
-    ge->addWidget(formulario_->lista(f.Combo3, QStringLiteral("Combo3"), QStringLiteral("Estribo pré-definido")), 0, 1);
+    ge->addWidget(formulario_->lista(f.Combo3, QStringLiteral("Estribo pré-definido")), 0, 1);
     ge->addWidget(o5, 1, 0, 1, 2);
     ge->addWidget(o6, 2, 0, 1, 2);
     {
@@ -207,9 +201,9 @@ QWidget* MainWindow::montaOpcoes()
         auto* digitado = new QWidget;
         auto* hd = new QHBoxLayout(digitado);
         hd->setContentsMargins(24, 0, 0, 0);
-        estriboDiametro_ = formulario_->lista(f.EstriboDiametro, QStringLiteral("EstriboDiametro"), QStringLiteral("Diâmetro do estribo"));
-        estriboEspacamento_ = formulario_->caixa(f.EstriboEspacamento, QStringLiteral("EstriboEspacamento"), Teclas::Decimal, 48,
-                                    QStringLiteral("Espaçamento do estribo (cm)"));
+        estriboDiametro_ = formulario_->lista(f.EstriboDiametro, QStringLiteral("Diâmetro do estribo"));
+        estriboEspacamento_ =
+            formulario_->caixa(f.EstriboEspacamento, Teclas::Decimal, 48, QStringLiteral("Espaçamento do estribo (cm)"));
         hd->addWidget(new QLabel(QStringLiteral("φ")));
         hd->addWidget(estriboDiametro_, 1);
         hd->addWidget(new QLabel(QStringLiteral("c/")));
@@ -222,14 +216,14 @@ QWidget* MainWindow::montaOpcoes()
             estriboEspacamento_->setEnabled(marcado);
         });
     }
-    ge->addWidget(formulario_->marca(f.Check5, QStringLiteral("Check5"), qs(f.Check5.Caption)), 4, 0, 1, 2);
+    ge->addWidget(formulario_->marca(f.Check5, qs(f.Check5.Caption)), 4, 0, 1, 2);
     ge->setColumnStretch(1, 1);
     v->addWidget(est);
 
     auto* gan = quadro("Ganchos", "Frame7");
     auto* gg = new QVBoxLayout(gan);
-    auto* o90 = formulario_->opcao(f.Option7[1], QStringLiteral("Option7(1)"));
-    auto* o45 = formulario_->opcao(f.Option7[0], QStringLiteral("Option7(0)"));
+    auto* o90 = formulario_->opcao(f.Option7[1]);
+    auto* o45 = formulario_->opcao(f.Option7[0]);
     formulario_->agrupa({o90, o45});
     gg->addWidget(o90);
     gg->addWidget(o45);

@@ -35,7 +35,7 @@ QWidget* MainWindow::montaDesenho()
     desenho_->setMinimumSize(200, 160);
     v->addWidget(desenho_, 1);
     auto* linha = new QHBoxLayout;
-    auto* t6 = formulario_->caixa(f.Text6, QStringLiteral("Text6"), Teclas::Decimal, 48, QStringLiteral("Escala"));
+    auto* t6 = formulario_->caixa(f.Text6, Teclas::Decimal, 48, QStringLiteral("Escala"));
     linha->addWidget(rotulo(QStringLiteral("Escala"), t6));
     linha->addWidget(t6);
     linha->addStretch();
@@ -81,34 +81,34 @@ QWidget* MainWindow::montaResultados()
     TextBox* porBarra[] = {&f.Text12, &f.Text13, &f.Text14};
     for (int i = 0; i < 3; ++i) {
         ga->addWidget(rotulo(QString::fromUtf8(linhas[i])), i + 1, 0);
-        ga->addWidget(formulario_->resultado(*totais[i], QStringLiteral("Text%1").arg(9 + i), 72), i + 1, 1);
-        ga->addWidget(formulario_->resultado(*porBarra[i], QStringLiteral("Text%1").arg(12 + i), 72), i + 1, 2);
+        ga->addWidget(formulario_->resultado(*totais[i], 72), i + 1, 1);
+        ga->addWidget(formulario_->resultado(*porBarra[i], 72), i + 1, 2);
     }
     ga->addWidget(rotulo(QStringLiteral("Excesso")), 4, 0);
-    ga->addWidget(formulario_->resultado(f.Text15, QStringLiteral("Text15"), 72), 4, 1);
+    ga->addWidget(formulario_->resultado(f.Text15, 72), 4, 1);
     ga->setColumnStretch(3, 1);
     v->addWidget(area);
 
     auto* peso = quadro("Aço (Kg)", "Frame10");
     auto* gp = new QHBoxLayout(peso);
     gp->addWidget(rotulo(QStringLiteral("Longitudinal")));
-    gp->addWidget(formulario_->resultado(f.Text19, QStringLiteral("Text19"), 72));
+    gp->addWidget(formulario_->resultado(f.Text19, 72));
     gp->addStretch();
     v->addWidget(peso);
 
     auto* cob = quadro("Cobrimento (cm)", "Frame11");
     auto* gc = new QHBoxLayout(cob);
     gc->addWidget(rotulo(QStringLiteral("Nominal")));
-    gc->addWidget(formulario_->resultado(f.Text25, QStringLiteral("Text25"), 60));
+    gc->addWidget(formulario_->resultado(f.Text25, 60));
     gc->addSpacing(8);
     gc->addWidget(rotulo(QStringLiteral("Efetivo")));
-    gc->addWidget(formulario_->resultado(f.Text26, QStringLiteral("Text26"), 60));
+    gc->addWidget(formulario_->resultado(f.Text26, 60));
     gc->addStretch();
     v->addWidget(cob);
 
     auto* est = quadro("Estribo", "Frame12");
     auto* gs = new QHBoxLayout(est);
-    auto* t27 = formulario_->resultado(f.Text27, QStringLiteral("Text27"), 0);
+    auto* t27 = formulario_->resultado(f.Text27, 0);
     t27->setAlignment(Qt::AlignLeft);
     gs->addWidget(t27);
     v->addWidget(est);
@@ -117,13 +117,13 @@ QWidget* MainWindow::montaResultados()
     auto* gz = new QGridLayout(zon);
     gz->setHorizontalSpacing(6);
     gz->addWidget(rotulo(QStringLiteral("Zona")), 0, 0);
-    auto* t8 = formulario_->resultado(f.Text8, QStringLiteral("Text8"), 60);
+    auto* t8 = formulario_->resultado(f.Text8, 60);
     t8->setAlignment(Qt::AlignCenter);
     gz->addWidget(t8, 0, 1);
     gz->addWidget(rotulo(QStringLiteral("βx = x / h")), 1, 0);
-    gz->addWidget(formulario_->resultado(f.Text28, QStringLiteral("Text28"), 60), 1, 1);
+    gz->addWidget(formulario_->resultado(f.Text28, 60), 1, 1);
     gz->addWidget(rotulo(QStringLiteral("Altura da L.N.")), 2, 0);
-    gz->addWidget(formulario_->resultado(f.Text29, QStringLiteral("Text29"), 60), 2, 1);
+    gz->addWidget(formulario_->resultado(f.Text29, 60), 2, 1);
     gz->addWidget(rotulo(QStringLiteral("cm")), 2, 2);
     gz->setColumnStretch(3, 1);
     v->addWidget(zon);
@@ -167,7 +167,7 @@ QWidget* MainWindow::montaResultados()
 
     auto* err = quadro("Erros", "Frame14");
     auto* gr = new QHBoxLayout(err);
-    auto* t30 = formulario_->resultado(f.Text30, QStringLiteral("Text30"), 0);
+    auto* t30 = formulario_->resultado(f.Text30, 0);
     t30->setAlignment(Qt::AlignCenter);
     QFont negrito = t30->font();
     negrito.setBold(true);

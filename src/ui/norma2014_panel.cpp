@@ -33,7 +33,7 @@ Norma2014Panel::Norma2014Panel(Form1Model& f, const FabricaDeEntradas& fabrica, 
     linha_ = new QWidget;
     auto* h = new QHBoxLayout(linha_);
     h->setContentsMargins(2, 0, 2, 0);
-    norma_ = fabrica.lista(f.Norma, QStringLiteral("Norma"), QStringLiteral("Norma"));
+    norma_ = fabrica.lista(f.Norma, QStringLiteral("Norma"));
     norma_->setToolTip(QStringLiteral("As regras do cálculo: o projeto de revisão da NB1 de 2001, ou a ABNT NBR "
                                       "6118:2014 / 2023 (γn por fórmula, M1d,mín, esbeltez e 2ª ordem nas duas "
                                       "direções, flexão oblíqua)"));
@@ -43,7 +43,7 @@ Norma2014Panel::Norma2014Panel(Form1Model& f, const FabricaDeEntradas& fabrica, 
     auto* g = new QGridLayout(this);
     g->setHorizontalSpacing(6);
     g->setContentsMargins(8, 4, 8, 4);
-    auto* metodo = fabrica.lista(f.SegundaOrdem, QStringLiteral("SegundaOrdem"), QStringLiteral("Método da 2ª ordem"));
+    auto* metodo = fabrica.lista(f.SegundaOrdem, QStringLiteral("Método da 2ª ordem"));
     for (int i = 0; i < metodo->count(); ++i)
         metodo->setItemText(i, textoDoMetodo(metodo->itemData(i).toString().toStdString()));
     metodo->setToolTip(QStringLiteral("Efeitos locais de 2ª ordem: pilar-padrão com curvatura aproximada "
@@ -53,8 +53,8 @@ Norma2014Panel::Norma2014Panel(Form1Model& f, const FabricaDeEntradas& fabrica, 
 
     g->addWidget(rotulo(QStringLiteral("direção h")), 1, 1, Qt::AlignCenter);
     g->addWidget(rotulo(QStringLiteral("direção b")), 1, 2, Qt::AlignCenter);
-    auto* leH = fabrica.caixa(f.LeH, QStringLiteral("LeH"), Teclas::Decimal, 72, QStringLiteral("ℓe na direção de h (cm)"));
-    auto* leB = fabrica.caixa(f.LeB, QStringLiteral("LeB"), Teclas::Decimal, 72, QStringLiteral("ℓe na direção de b (cm)"));
+    auto* leH = fabrica.caixa(f.LeH, Teclas::Decimal, 72, QStringLiteral("ℓe na direção de h (cm)"));
+    auto* leB = fabrica.caixa(f.LeB, Teclas::Decimal, 72, QStringLiteral("ℓe na direção de b (cm)"));
     for (auto* e : {leH, leB})
         e->setPlaceholderText(QStringLiteral("= ℓ"));
     leH->setToolTip(QStringLiteral("Comprimento efetivo ℓe na direção de h, em cm; vazio: o comprimento do pilar"));
@@ -67,12 +67,9 @@ Norma2014Panel::Norma2014Panel(Form1Model& f, const FabricaDeEntradas& fabrica, 
     mdTopo->setObjectName(QStringLiteral("lblMdTopo"));
     mdTopo->setAlignment(Qt::AlignCenter);
     mdTopo->setToolTip(QStringLiteral("O momento no topo na direção de h é o Md da janela"));
-    auto* myTopo = fabrica.caixa(f.MyTopo, QStringLiteral("MyTopo"), Teclas::DecimalComSinal, 72,
-                                 QStringLiteral("My no topo"));
-    auto* mdBase = fabrica.caixa(f.MdBase, QStringLiteral("MdBase"), Teclas::DecimalComSinal, 72,
-                                 QStringLiteral("Md na base"));
-    auto* myBase = fabrica.caixa(f.MyBase, QStringLiteral("MyBase"), Teclas::DecimalComSinal, 72,
-                                 QStringLiteral("My na base"));
+    auto* myTopo = fabrica.caixa(f.MyTopo, Teclas::DecimalComSinal, 72, QStringLiteral("My no topo"));
+    auto* mdBase = fabrica.caixa(f.MdBase, Teclas::DecimalComSinal, 72, QStringLiteral("Md na base"));
+    auto* myBase = fabrica.caixa(f.MyBase, Teclas::DecimalComSinal, 72, QStringLiteral("My na base"));
     const QString sinal = QStringLiteral(" (na unidade de Md; o mesmo sinal nas duas pontas traciona a mesma face; "
                                          "vazio: nenhum)");
     myTopo->setToolTip(QStringLiteral("Momento de cálculo no topo, na direção de b") + sinal);

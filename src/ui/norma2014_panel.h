@@ -8,7 +8,7 @@
 //     (the top's of the direction of h is the main window's Md).
 // The boxes and lists are made by the window's own factories, so that they behave as
 // every other input: a comma read as the point, the out-of-date greying, undo, the
-// project file (the tables of window/window_input.cpp already list them).
+// project file (the table of controls already lists them and names their widgets).
 
 #include "ui/key_filters.h"
 #include "window/program.h"
@@ -24,8 +24,8 @@ class QLineEdit;
 namespace pilarix::ui {
 
 struct FabricaDeEntradas {
-    std::function<QLineEdit*(TextBox&, const QString& nome, Teclas regra, int largura, const QString& rotulo)> caixa;
-    std::function<QComboBox*(ComboBox&, const QString& nome, const QString& rotulo)> lista;
+    std::function<QLineEdit*(TextBox&, Teclas regra, int largura, const QString& rotulo)> caixa;
+    std::function<QComboBox*(ComboBox&, const QString& rotulo)> lista;
 };
 
 class Norma2014Panel : public QGroupBox {

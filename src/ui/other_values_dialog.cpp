@@ -1,5 +1,6 @@
 #include "ui/other_values_dialog.h"
 
+#include "ui/form_binding.h"
 #include "ui/key_filters.h"
 #include "ui/wheel_guard.h"
 #include "window/window_input.h"
@@ -37,13 +38,13 @@ OtherValuesDialog::OtherValuesDialog(Form8Model& form, std::function<void()> vol
     setWindowTitle(QString::fromStdString(form_.Caption));
 
     combo1_ = new QComboBox(this);
-    combo1_->setObjectName(QStringLiteral("Combo1"));
+    combo1_->setObjectName(nomeDoWidget(form_, &form_.Combo1));
     combo3_ = new QComboBox(this);
-    combo3_->setObjectName(QStringLiteral("Combo3"));
+    combo3_->setObjectName(nomeDoWidget(form_, &form_.Combo3));
     text2_ = new QLineEdit(this);
-    text2_->setObjectName(QStringLiteral("Text2"));
+    text2_->setObjectName(nomeDoWidget(form_, &form_.Text2));
     text1_ = new QLineEdit(this);
-    text1_->setObjectName(QStringLiteral("Text1"));
+    text1_->setObjectName(nomeDoWidget(form_, &form_.Text1));
     tecla_ = new QLabel(this);
     tecla_->setObjectName(QStringLiteral("lblTecla"));
     tecla_->setWordWrap(true);

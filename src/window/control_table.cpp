@@ -382,6 +382,38 @@ void Controle::atribui(Program& p, const std::string& v) const
 
 namespace {
 
+// Only the rows of the controls on a form: a Texto or a Composto has no address there.
+template <typename Form>
+std::string_view nomeNoEndereco(Form& f, Alvo (*Controle::*noForm)(Form&), const Alvo& controle)
+{
+    for (const auto& c : controles())
+        if (c.*noForm && (c.*noForm)(f) == controle)
+            return c.nome;
+    return {};
+}
+
+} // namespace
+
+std::string_view nomeDoControle(const Form1Model& f, Alvo controle)
+{
+    return nomeNoEndereco(const_cast<Form1Model&>(f), &Controle::noForm1, controle);
+}
+
+std::string_view nomeDoControle(const Form8Model& f, Alvo controle)
+{
+    return nomeNoEndereco(const_cast<Form8Model&>(f), &Controle::noForm8, controle);
+}
+
+std::string_view nomeNoForm(std::string_view nome)
+{
+    constexpr std::string_view form8 = "Form8.";
+    if (nome.starts_with(form8))
+        nome.remove_prefix(form8.size());
+    return nome;
+}
+
+namespace {
+
 // The number of a box the program numbers, "Text7(3)" as 7 and 3, "Text16" as 16 and
 // -1; none for any other name.
 std::optional<std::pair<int, int>> numeroDaCaixa(std::string_view nome)

@@ -91,6 +91,16 @@ const std::vector<Controle>& controles();
 // The control of that name, or none.
 const Controle* controle(std::string_view nome);
 
+// The name the table gives the control at that address of the main window ("Text16",
+// "Option7(1)", "Norma") or of "Outros valores" ("Form8.Text1"); empty for a control
+// it does not hold (a command button, a box of another dialog). The window names its
+// widgets so, and takes a control's name from nowhere else.
+std::string_view nomeDoControle(const Form1Model& f, Controle::Alvo controle);
+std::string_view nomeDoControle(const Form8Model& f, Controle::Alvo controle);
+// The name on the control's own form: "Form8.Text1" is the box Text1 of the dialog
+// "Outros valores"; a control of the main window is named as the table names it.
+std::string_view nomeNoForm(std::string_view nome);
+
 // Every text box of the main window, by name, in the order of their numbers: Text1,
 // Text2, ..., Text7(0) to Text7(7), Text8, ...
 std::vector<std::pair<std::string, const TextBox*>> textBoxesOf(const Form1Model& form);

@@ -164,3 +164,34 @@ TEST(ControlTable, TheTextBoxesAreListedInTheOrderOfTheirNumbers)
                      "Text7(6) Text7(7) Text8 Text9 Text10 Text11 Text12 Text13 Text14 Text15 Text16 Text17 Text18 "
                      "Text19 Text20 Text21 Text22 Text23 Text25 Text26 Text27 Text28 Text29 Text30 Text31 Text32 ");
 }
+
+TEST(ControlTable, AControlIsNamedByItsPlaceOnItsForm)
+{
+    PolicyDialogs d;
+    Program p(d);
+    auto& f = p.Form1;
+    TextBox solta;
+    const struct {
+        const char* caso;
+        std::string_view nome;
+        const char* esperado;
+    } rows[] = {
+        {"an input box", nomeDoControle(f, &f.Text16), "Text16"},
+        {"a result box", nomeDoControle(f, &f.Text30), "Text30"},
+        {"a bar of the catalogue", nomeDoControle(f, &f.Text7[3]), "Text7(3)"},
+        {"the right-angle hook, whatever its place in the array", nomeDoControle(f, &f.Option7[1]), "Option7(1)"},
+        {"a box's state is not the box", nomeDoControle(f, &f.Text3.Enabled), "Text3.Enabled"},
+        {"a list of Outros valores", nomeDoControle(p.Form8, &p.Form8.Combo3), "Form8.Combo3"},
+        {"a box of Outros valores on its own form", nomeNoForm(nomeDoControle(p.Form8, &p.Form8.Text1)), "Text1"},
+        {"a hook on its own form", nomeNoForm("Option7(0)"), "Option7(0)"},
+        {"a box of the main window is none of Outros valores", nomeDoControle(p.Form8, &f.Text1), ""},
+        {"a box of no form", nomeDoControle(f, &solta), ""},
+    };
+    for (const auto& r : rows)
+        EXPECT_EQ(r.nome, r.esperado) << r.caso;
+    // Two rows at one place would give its widget the first one's name.
+    for (const auto& c : controles())
+        if (c.noForm1 || c.noForm8) {
+            EXPECT_EQ(c.noForm1 ? nomeDoControle(p.Form1, c.alvo(p)) : nomeDoControle(p.Form8, c.alvo(p)), c.nome);
+        }
+}
