@@ -79,7 +79,7 @@ public:
     bool norma2014() const { return Form1.Norma.Text == lists::norma[1] || norma2023(); }
     bool norma2023() const { return Form1.Norma.Text == lists::norma[2]; }
     // The load cases with their end moments in both directions, and the slenderness
-    // inputs, as Ler02 read the window (window/norma2014.cpp).
+    // inputs, as Ler02 read the window (window/read_project.cpp).
     std::vector<engine::Case2014> casos2014() const;
     engine::Slenderness2014Input esbeltez2014() const;
     // Every message and question of the last calculation, in order, with the answer
@@ -110,7 +110,7 @@ public:
     // The values of a calculation as the window holds them after Ler02.
     engine::ColumnInput entradaDoCalculo() const;
     // The project as the calculator takes it: the rule set, the column, every load
-    // case in the program's units and the slenderness inputs (window/norma2014.cpp).
+    // case in the program's units and the slenderness inputs (window/read_project.cpp).
     app::Project projetoDoCalculo() const;
 
     // ---- input (window/read_input.cpp) ----

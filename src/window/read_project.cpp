@@ -1,6 +1,8 @@
-// A column by ABNT NBR 6118:2014 in the window: the load cases with the moments of
-// both ends in both directions, the effective lengths and the method of the second
-// order, read from the window in its units; the engine does the rest.
+// The typed project of a calculation, read from the window after Ler02: the rule
+// set, the column, every load case (the first the window's Nd and Md, the others from
+// the cases table, in the units of Nd and Md; under 2014 with the moments of both ends
+// in both directions), the effective lengths and the method of the second order, and
+// the units the results are shown in.
 
 #include "window/program.h"
 
