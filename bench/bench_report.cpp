@@ -26,7 +26,7 @@ void BM_Memorial_Dados(benchmark::State& state)
     for (auto _ : state) {
         report::ReportData r;
         std::string error;
-        benchmark::DoNotOptimize(report::buildReport(p, kStamp, r, error));
+        benchmark::DoNotOptimize(report::buildReport(p.registroDoCalculo(), kStamp, r, error));
         benchmark::DoNotOptimize(r.messages.data());
     }
 }
@@ -41,7 +41,7 @@ void BM_Memorial_Pdf(benchmark::State& state)
     for (auto _ : state) {
         report::ReportData r;
         std::string error;
-        report::buildReport(p, kStamp, r, error);
+        report::buildReport(p.registroDoCalculo(), kStamp, r, error);
         const QByteArray pdf = render::reportPdf(r, error);
         bytes = static_cast<std::size_t>(pdf.size());
         benchmark::DoNotOptimize(pdf.data());
@@ -60,7 +60,7 @@ void BM_Memorial_PdfComBusca(benchmark::State& state)
     for (auto _ : state) {
         report::ReportData r;
         std::string error;
-        report::buildReport(p, kStamp, r, error);
+        report::buildReport(p.registroDoCalculo(), kStamp, r, error);
         if (r.solutions.empty())
             state.SkipWithError("the search put no list in the report");
         const QByteArray pdf = render::reportPdf(r, error);
@@ -77,7 +77,7 @@ void BM_Memorial_Arquivo(benchmark::State& state)
     const std::string path = QDir::temp().filePath(QStringLiteral("pilarix_bench_memorial.pdf")).toStdString();
     for (auto _ : state) {
         std::string error;
-        if (!render::writeReport(p, path, kStamp, error))
+        if (!render::writeReport(p.registroDoCalculo(), path, kStamp, error))
             state.SkipWithError(error.c_str());
     }
     QFile::remove(QString::fromStdString(path));
