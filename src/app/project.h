@@ -6,6 +6,7 @@
 // (Program::projetoDoCalculo); the calculator runs on it; the record of the
 // calculation keeps it.
 
+#include "app/units.h"
 #include "engine/column.h"
 #include "engine/column2014.h"
 #include "engine/load_cases.h"
@@ -21,6 +22,8 @@ enum class RuleSet { Nbr2001, Nbr2014, Nbr2023 };
 // window's lists spell them ("KN", "KN.cm", "MPa").
 struct DisplayUnits {
     std::string force, moment, strength;
+    ShownUnit shownForce() const { return shownForceUnit(force); }
+    ShownUnit shownMoment() const { return shownMomentUnit(moment); }
 };
 
 struct Project {

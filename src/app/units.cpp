@@ -54,4 +54,18 @@ std::optional<double> unitFactor(std::string_view name)
     return std::nullopt;
 }
 
+ShownUnit shownForceUnit(const std::string& name)
+{
+    if (const auto f = unitFactor(name))
+        return {name, *f};
+    return {"kN", 100};
+}
+
+ShownUnit shownMomentUnit(const std::string& name)
+{
+    if (const auto f = unitFactor(name))
+        return {name, *f};
+    return {"kN·m", 10000};
+}
+
 } // namespace pilarix

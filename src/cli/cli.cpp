@@ -113,8 +113,8 @@ void report(const app::CalculationRecord& r, std::ostream& out)
     // detailed for (the boxes above are the window's first case, the results its).
     if (const CaseOutcome* g = r.governingCase()) {
         using namespace report::numbers;
-        const Unit force = unitOf(units.force, "kN", kKgfPerKn);
-        const Unit moment = unitOf(units.moment, "kN·m", kKgfCmPerKnM);
+        const Unit force = units.shownForce();
+        const Unit moment = units.shownMoment();
         for (const auto& c : r.cases)
             out << "Caso " << c.name << ": Nd = " << forceText(c.Nd, force, true) << ", Md = "
                 << momentText(c.Md, moment, true) << "; zona " << engine::zoneLetter(c.zone) << ", As = "
@@ -134,8 +134,8 @@ void report(const app::CalculationRecord& r, std::ostream& out)
     if (const auto& v = r.verification) {
         // In the units the forces were typed in, and in kN and kN·m, as the report writes them.
         using namespace report::numbers;
-        const Unit force = unitOf(units.force, "kN", kKgfPerKn);
-        const Unit moment = unitOf(units.moment, "kN·m", kKgfCmPerKnM);
+        const Unit force = units.shownForce();
+        const Unit moment = units.shownMoment();
         out << "Verificação por compatibilidade de deformações: N_Sd = " << forceText(v->nSd, force)
             << ", M_Sd = " << momentText(v->mSd, moment) << "; M_Rd = "
             << (v->mRd ? momentText(*v->mRd, moment) : std::string("(N_Sd fora da faixa resistente)"))

@@ -75,8 +75,8 @@ std::optional<MomentContour> momentContourOf(const app::CalculationRecord& rec)
         return std::nullopt;
     const engine::Column2014Result& r = *rec.result2014;
     const engine::ObliqueCheck& o = *r.oblique;
-    const Unit f = unitOf(rec.project.units.force, "kN", kKgfPerKn);
-    const Unit m = unitOf(rec.project.units.moment, "kN·m", kKgfCmPerKnM);
+    const Unit f = rec.project.units.shownForce();
+    const Unit m = rec.project.units.shownMoment();
     MomentContour c;
     c.forceUnit = f.name;
     c.momentUnit = m.name;
@@ -113,8 +113,8 @@ void addNorma2014(const app::CalculationRecord& rec, ReportData& report)
     if (!rec.result2014)
         return;
     const engine::Column2014Result& r = *rec.result2014;
-    const Unit f = unitOf(rec.project.units.force, "kN", kKgfPerKn);
-    const Unit m = unitOf(rec.project.units.moment, "kN·m", kKgfCmPerKnM);
+    const Unit f = rec.project.units.shownForce();
+    const Unit m = rec.project.units.shownMoment();
     const bool curvature = rec.project.slenderness.method != engine::SecondOrderMethod::ApproximateStiffness;
 
     Section general;

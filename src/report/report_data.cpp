@@ -119,15 +119,12 @@ std::string dLinhaNote(const app::CalculationRecord& rec, const engine::ColumnRe
     return note;
 }
 
-Unit forceUnit(const app::CalculationRecord& rec) { return unitOf(rec.project.units.force, "kN", kKgfPerKn); }
-Unit momentUnit(const app::CalculationRecord& rec) { return unitOf(rec.project.units.moment, "kN·m", kKgfCmPerKnM); }
-
 void inputSection(const app::CalculationRecord& rec, const engine::ColumnResult& r, const SolutionRow* fromSearch,
                   Section& s)
 {
     const engine::ColumnInput& in = rec.project.column;
-    const Unit force = forceUnit(rec);
-    const Unit moment = momentUnit(rec);
+    const Unit force = rec.project.units.shownForce();
+    const Unit moment = rec.project.units.shownMoment();
     const int total =
         r.designed ? r.design.totalBars : static_cast<int>(2 * (in.barsOnWidthFace + in.barsOnDepthFace) - 4);
     const double dLinha = r.designed ? r.design.dLinha : in.dLinha.typed;
@@ -370,8 +367,8 @@ void verificationSection(const app::CalculationRecord& rec, ReportData& out)
         return;
     }
     const engine::Verification& v = *rec.verification;
-    const Unit force = forceUnit(rec);
-    const Unit moment = momentUnit(rec);
+    const Unit force = rec.project.units.shownForce();
+    const Unit moment = rec.project.units.shownMoment();
     const bool finite = std::isfinite(v.utilisation);
     w.line("N_Sd = γn·Nd", forceText(v.nSd, force))
         .line("M_Sd = γn·Md", momentText(v.mSd, moment))
@@ -413,8 +410,8 @@ void casesList(const app::CalculationRecord& rec, ReportData& out)
 {
     if (rec.cases.size() < 2)
         return;
-    const Unit force = forceUnit(rec);
-    const Unit moment = momentUnit(rec);
+    const Unit force = rec.project.units.shownForce();
+    const Unit moment = rec.project.units.shownMoment();
     for (const auto& c : rec.cases) {
         CaseLine l;
         l.name = c.name;

@@ -28,13 +28,6 @@ std::string significant(double x, int least)
     return fixed(x, decimals);
 }
 
-Unit unitOf(const std::string& name, const char* fallbackName, double fallbackFactor)
-{
-    if (const auto f = unitFactor(name))
-        return {name, *f};
-    return {fallbackName, fallbackFactor};
-}
-
 std::string forceText(double kgf, const Unit& u, bool typed)
 {
     const double v = kgf / u.factor;

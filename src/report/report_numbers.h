@@ -4,6 +4,8 @@
 // its factor to the program's units (kN or kN·m where a hand-edited file names one
 // the units table does not know).
 
+#include "app/units.h"
+
 #include <string>
 
 namespace pilarix::report::numbers {
@@ -13,11 +15,7 @@ std::string fixed(double x, int decimals);
 // (40 Tf and 40000 Kgf alike), and never fewer decimals than `least`.
 std::string significant(double x, int least = 0);
 
-struct Unit {
-    std::string name;
-    double factor;
-};
-Unit unitOf(const std::string& name, const char* fallbackName, double fallbackFactor);
+using Unit = ShownUnit; // app/units.h
 
 // A force (kgf) or a moment (kgf·cm) in the unit of the window's list and, beside it,
 // in kN or kN·m: "600 KN (600.0 kN)". `typed`: a value the engineer typed, written

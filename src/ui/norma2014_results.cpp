@@ -78,8 +78,9 @@ void Norma2014Results::mostra(const app::CalculationRecord& registro, bool desat
     if (!mostrar)
         return;
     const engine::Column2014Result& r = *registro.result2014;
-    const double fm = unitFactor(registro.project.units.moment).value_or(1);
-    const QString unidade = qs(registro.project.units.moment);
+    const ShownUnit momento = registro.project.units.shownMoment();
+    const double fm = momento.factor;
+    const QString unidade = qs(momento.name);
     rotulos_[M1dMin]->setText(QStringLiteral("M1d,mín (%1)").arg(unidade));
     rotulos_[M2d]->setText(QStringLiteral("M2d (%1)").arg(unidade));
     rotulos_[MdTot]->setText(QStringLiteral("Md,tot (%1)").arg(unidade));

@@ -27,11 +27,13 @@ QString casoDeterminanteTexto(const app::CalculationRecord& r)
 DiagramData dadosDoDiagrama(const app::CalculationRecord& r)
 {
     DiagramData d;
-    d.forceUnit = qs(r.project.units.force);
-    d.momentUnit = qs(r.project.units.moment);
+    const ShownUnit forca = r.project.units.shownForce();
+    const ShownUnit momento = r.project.units.shownMoment();
+    d.forceUnit = qs(forca.name);
+    d.momentUnit = qs(momento.name);
     const auto& v = *r.verification;
-    const double fn = unitFactor(r.project.units.force).value_or(1);
-    const double fm = unitFactor(r.project.units.moment).value_or(1);
+    const double fn = forca.factor;
+    const double fm = momento.factor;
     for (const auto& [n, m] : v.curve)
         d.curve.emplace_back(m / fm, n / fn);
     if (r.cases.empty()) {

@@ -8,6 +8,7 @@
 #include "cli/cli.h"
 #include "report/report_data.h"
 #include "ui/cases_dialog.h"
+#include "ui/verdict_text.h"
 
 #include <QLabel>
 #include <QTableWidget>
@@ -119,5 +120,39 @@ TEST(UmRegistro, TheWindowTheReportAndTheJsonShowTheSameNumbers)
         // The report's data are the forces the design was made for: the governing case's.
         EXPECT_EQ(reportValue(rep.sections[0], "Nd").rfind("600 KN", 0), 0u) << reportValue(rep.sections[0], "Nd");
         EXPECT_EQ(reportValue(rep.sections[0], "Md").rfind("20000 KN.cm", 0), 0u) << reportValue(rep.sections[0], "Md");
+    }
+}
+
+TEST(UmRegistro, TheWindowsDiagramAndTheReportsConvertUnitsAlike)
+{
+    // A unit a list holds is shown as typed; a name no list holds (a hand-edited
+    // project) shows kN and kN·m in both, never a bare kgf under a foreign name.
+    const struct {
+        const char *force, *moment, *shownForce, *shownMoment;
+    } rows[] = {
+        {"KN", "KN.cm", "KN", "KN.cm"},
+        {"Tf", "Tf.m", "Tf", "Tf.m"},
+        {"kn", "kn.m", "kN", "kN·m"},
+    };
+    test::Janela j;
+    j.poe("Text3", "4");
+    j.clica("Command1");
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.force);
+        app::CalculationRecord record = j.p.registroDoCalculo();
+        record.project.units.force = row.force;
+        record.project.units.moment = row.moment;
+        report::ReportData rep;
+        std::string error;
+        ASSERT_TRUE(report::buildReport(record, {"24/11/2026 08:00", "t"}, rep, error)) << error;
+        ASSERT_TRUE(rep.diagram);
+        const ui::DiagramData window = ui::dadosDoDiagrama(record);
+        EXPECT_EQ(rep.diagram->forceUnit, row.shownForce);
+        EXPECT_EQ(rep.diagram->momentUnit, row.shownMoment);
+        EXPECT_EQ(window.forceUnit.toStdString(), row.shownForce);
+        EXPECT_EQ(window.momentUnit.toStdString(), row.shownMoment);
+        ASSERT_EQ(window.points.size(), 1u);
+        EXPECT_DOUBLE_EQ(window.points[0].n, rep.diagram->nSd);
+        EXPECT_DOUBLE_EQ(window.points[0].m, rep.diagram->mSd);
     }
 }
