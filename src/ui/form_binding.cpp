@@ -140,10 +140,14 @@ void FormBinding::copiaParaModelo()
         m->Value = r->isChecked();
 }
 
-void FormBinding::pintaCaixas(bool desatualizado)
+void FormBinding::pintaCaixas(bool desatualizado, const app::CalculationRecord& registro)
 {
+    std::map<QString, const std::string*> doRegistro;
+    for (const auto& b : registro.boxes)
+        doRegistro[qs(b.name)] = &b.text;
     for (auto& [m, e] : caixas_) {
-        const QString t = qs(m->Text);
+        const auto r = e->isReadOnly() ? doRegistro.find(e->objectName()) : doRegistro.end();
+        const QString t = qs(r != doRegistro.end() ? *r->second : m->Text);
         if (e->text() != t) {
             e->setText(t);
             e->setCursorPosition(0);

@@ -63,7 +63,8 @@ public:
 
     void copiaParaModelo();
     // The boxes (a result out of date faded), then the lists, ticks, options and buttons.
-    void pintaCaixas(bool desatualizado);
+    // The result boxes take their texts from the record of the calculation on show.
+    void pintaCaixas(bool desatualizado, const app::CalculationRecord& registro);
     void pintaOutros();
 
 private:

@@ -279,7 +279,7 @@ void MainWindow::atualiza()
     const auto& f = program_->Form1;
     const bool fixa = !f.Check2.ticked() && program_->BitolaFixa >= engine::kFirstLongitudinalBar
                       && program_->BitolaFixa <= engine::kBarCount;
-    formulario_->pintaCaixas(desatualizado_);
+    formulario_->pintaCaixas(desatualizado_, registro_);
     // The fixed bar is framed in orange and bold, in the colours of the result.
     for (std::size_t i = 0; i < bitolas_.size(); ++i) {
         const bool escolhida = fixa && program_->BitolaFixa == engine::kFirstLongitudinalBar + static_cast<int>(i);
