@@ -86,6 +86,21 @@ double widestLabel(const QFontMetricsF& fm, const Axis& a)
     return w;
 }
 
+Axis axisAcross(double lo, double hi, double width, const QFontMetricsF& fm, double unit)
+{
+    double perTick = 70 * unit;
+    Axis a = niceAxis(lo, hi, width, perTick);
+    for (int i = 0; i < 4; ++i) {
+        const double room = width / std::max<double>(static_cast<double>(a.ticks.size()) - 1, 1);
+        const double need = widestLabel(fm, a) + 12 * unit;
+        if (need <= room)
+            break;
+        perTick *= need / room + 0.05;
+        a = niceAxis(lo, hi, width, perTick);
+    }
+    return a;
+}
+
 QFont bold(const QFont& f)
 {
     QFont b = f;

@@ -34,6 +34,9 @@ Axis niceAxis(double lo, double hi, double length, double perTick);
 int decimalsFor(double step);
 QString tickText(double v, int decimals);
 double widestLabel(const QFontMetricsF& fm, const Axis& a);
+// The axis along a frame's width: its values stand side by side and need room, so
+// the spacing of about 70 units is widened until they fit (a few tries).
+Axis axisAcross(double lo, double hi, double width, const QFontMetricsF& fm, double unit);
 QFont bold(const QFont& f);
 
 bool segmentMeetsRect(QPointF a, QPointF b, const QRectF& r);

@@ -142,18 +142,8 @@ ChartLayout layoutChart(const InteractionChart& chart, const QRectF& bounds, con
         n = niceAxis(nMin, nMax, a.height(), 3 * line);
     }
 
-    // Values of M side by side need room in the frame as it stands: widen the
-    // spacing until they fit.
-    double perTick = 70 * u;
-    Axis m = niceAxis(mMin, mMax, a.width(), perTick);
-    for (int i = 0; i < 4; ++i) {
-        const double room = a.width() / std::max<double>(static_cast<double>(m.ticks.size()) - 1, 1);
-        const double need = widestLabel(fm, m) + 12 * u;
-        if (need <= room)
-            break;
-        perTick *= need / room + 0.05;
-        m = niceAxis(mMin, mMax, a.width(), perTick);
-    }
+    // Values of M side by side need room in the frame as it stands.
+    const Axis m = axisAcross(mMin, mMax, a.width(), fm, u);
     out.mLo = m.lo;
     out.mHi = m.hi;
     out.mStep = m.step;

@@ -110,17 +110,8 @@ ContourLayout layoutContour(const report::MomentContour& c, const QRectF& bounds
     a.adjust((a.width() - w) / 2, (a.height() - h) / 2, -(a.width() - w) / 2, -(a.height() - h) / 2);
     out.area = a;
     y = niceAxis(yMin, yMax, a.height(), 3 * line);
-    // Values of Mx side by side need room: widen their spacing until they fit.
-    double perTick = 70 * u;
-    x = niceAxis(xMin, xMax, a.width(), perTick);
-    for (int i = 0; i < 4; ++i) {
-        const double room = a.width() / std::max<double>(static_cast<double>(x.ticks.size()) - 1, 1);
-        const double need = widestLabel(fm, x) + 12 * u;
-        if (need <= room)
-            break;
-        perTick *= need / room + 0.05;
-        x = niceAxis(xMin, xMax, a.width(), perTick);
-    }
+    // Values of Mx side by side need room.
+    x = axisAcross(xMin, xMax, a.width(), fm, u);
     out.xLo = x.lo;
     out.xHi = x.hi;
     out.xStep = x.step;
