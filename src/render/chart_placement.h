@@ -6,7 +6,9 @@
 // (interaction_painter.h) and the Mx–My contour (moment_contour_painter.h) both
 // place their labels with it, so that neither puts a text over another.
 
+#include <QColor>
 #include <QFont>
+#include <QPen>
 #include <QFontMetricsF>
 #include <QPointF>
 #include <QRectF>
@@ -40,6 +42,28 @@ Axis axisAcross(double lo, double hi, double width, const QFontMetricsF& fm, dou
 QFont bold(const QFont& f);
 
 bool segmentMeetsRect(QPointF a, QPointF b, const QRectF& r);
+
+// The grey of a chart's grid and the dark grey of its axes, in every chart.
+inline const QColor kGridColour(228, 228, 228);
+inline const QColor kAxisColour(70, 70, 70);
+
+// The grid at every tick of both axes, then the two axes crossing at the origin.
+// `screen(x, y)` maps chart values to the device; `unit` is one device millimetre
+// or so.
+template <typename Painter, typename Screen>
+void paintGridAndAxes(Painter& p, const QRectF& a, const std::vector<double>& xTicks,
+                      const std::vector<double>& yTicks, double unit, Screen screen)
+{
+    p.setPen(QPen(kGridColour, 1 * unit));
+    for (double v : xTicks)
+        p.drawLine(QPointF(screen(v, 0).x(), a.top()), QPointF(screen(v, 0).x(), a.bottom()));
+    for (double v : yTicks)
+        p.drawLine(QPointF(a.left(), screen(0, v).y()), QPointF(a.right(), screen(0, v).y()));
+    const QPointF o = screen(0, 0);
+    p.setPen(QPen(kAxisColour, 1.2 * unit));
+    p.drawLine(QPointF(a.left(), o.y()), QPointF(a.right(), o.y()));
+    p.drawLine(QPointF(o.x(), a.top()), QPointF(o.x(), a.bottom()));
+}
 
 // The values a chart must show, the origin always among them (the axes cross there):
 // what is not finite is left out.

@@ -27,8 +27,6 @@ const QColor kNotCarried(205, 30, 30);
 const QColor kUnknown(128, 128, 128);
 const QColor kCurveLine(30, 90, 170);
 const QColor kCurveFill(60, 120, 200, 45);
-const QColor kGrid(228, 228, 228);
-const QColor kAxis(70, 70, 70);
 
 // In pixels of 1/96 in, times the style's unit.
 constexpr double kMarker = 4.5, kGoverningMarker = 6.5, kRing = 4, kDiamond = 4.5, kCross = 4, kGap = 4;
@@ -271,15 +269,8 @@ void paintChart(QPainter& p, const InteractionChart& chart, const ChartLayout& l
     p.setRenderHint(QPainter::TextAntialiasing);
 
     // The grid, then the axes crossing at the origin, ticked at every round number.
-    p.setPen(QPen(kGrid, 1 * u));
-    for (double v : l.mTicks)
-        p.drawLine(QPointF(l.toScreen(v, 0).x(), a.top()), QPointF(l.toScreen(v, 0).x(), a.bottom()));
-    for (double v : l.nTicks)
-        p.drawLine(QPointF(a.left(), l.toScreen(0, v).y()), QPointF(a.right(), l.toScreen(0, v).y()));
+    paintGridAndAxes(p, a, l.mTicks, l.nTicks, u, [&l](double m, double n) { return l.toScreen(m, n); });
     const QPointF o = l.toScreen(0, 0);
-    p.setPen(QPen(kAxis, 1.2 * u));
-    p.drawLine(QPointF(a.left(), o.y()), QPointF(a.right(), o.y()));
-    p.drawLine(QPointF(o.x(), a.top()), QPointF(o.x(), a.bottom()));
     const double tick = 4 * u;
     for (double v : l.mTicks) {
         const double x = l.toScreen(v, 0).x();
@@ -300,9 +291,9 @@ void paintChart(QPainter& p, const InteractionChart& chart, const ChartLayout& l
     // M_Rd under the governing axial force.
     if (g && chart.mRd && finite(*chart.mRd) && finite(g->n)) {
         const QPointF at = l.toScreen((g->m < 0 ? -1 : 1) * std::abs(*chart.mRd), g->n);
-        p.setPen(QPen(kAxis, 1 * u, Qt::DotLine));
+        p.setPen(QPen(kAxisColour, 1 * u, Qt::DotLine));
         p.drawLine(QPointF(o.x(), at.y()), at);
-        p.setPen(QPen(kAxis, 1.3 * u));
+        p.setPen(QPen(kAxisColour, 1.3 * u));
         p.setBrush(Qt::white);
         const double r = kDiamond * u;
         p.drawPolygon(QPolygonF{at + QPointF(0, -r), at + QPointF(r, 0), at + QPointF(0, r), at + QPointF(-r, 0)});
@@ -318,7 +309,7 @@ void paintChart(QPainter& p, const InteractionChart& chart, const ChartLayout& l
         p.setPen(QPen(utilisationColour(g->utilisation).lighter(120), 1.3 * u, Qt::DashLine));
         p.drawLine(o, g->utilisation <= 1 && edgeShown ? edge : point);
         if (edgeShown) {
-            p.setPen(QPen(kAxis, 1.6 * u));
+            p.setPen(QPen(kAxisColour, 1.6 * u));
             const double c = kCross * u;
             p.drawLine(edge + QPointF(-c, -c), edge + QPointF(c, c));
             p.drawLine(edge + QPointF(-c, c), edge + QPointF(c, -c));
@@ -347,7 +338,7 @@ void paintChart(QPainter& p, const InteractionChart& chart, const ChartLayout& l
     // Every text where the layout put it.
     for (const ChartLabel& t : l.labels) {
         p.setFont(t.bold ? bold(style.font) : style.font);
-        QColor colour = kAxis;
+        QColor colour = kAxisColour;
         if (t.kind == ChartLabel::Kind::MomentTitle || t.kind == ChartLabel::Kind::ForceTitle)
             colour = Qt::black;
         else if (t.kind == ChartLabel::Kind::Case)

@@ -21,8 +21,6 @@ constexpr double kPi = 3.14159265358979323846;
 
 const QColor kContourLine(30, 90, 170);
 const QColor kContourFill(60, 120, 200, 45);
-const QColor kGrid(228, 228, 228);
-const QColor kAxis(70, 70, 70);
 
 // In pixels of 1/96 in, times the style's unit.
 constexpr double kMarker = 4.0, kGoverningMarker = 6.0, kRing = 4, kGap = 4;
@@ -232,15 +230,7 @@ void paintContour(QPainter& p, const report::MomentContour& c, const ContourLayo
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::TextAntialiasing);
 
-    p.setPen(QPen(kGrid, 1 * u));
-    for (double v : l.xTicks)
-        p.drawLine(QPointF(l.toScreen(v, 0).x(), a.top()), QPointF(l.toScreen(v, 0).x(), a.bottom()));
-    for (double v : l.yTicks)
-        p.drawLine(QPointF(a.left(), l.toScreen(0, v).y()), QPointF(a.right(), l.toScreen(0, v).y()));
-    const QPointF o = l.toScreen(0, 0);
-    p.setPen(QPen(kAxis, 1.2 * u));
-    p.drawLine(QPointF(a.left(), o.y()), QPointF(a.right(), o.y()));
-    p.drawLine(QPointF(o.x(), a.top()), QPointF(o.x(), a.bottom()));
+    paintGridAndAxes(p, a, l.xTicks, l.yTicks, u, [&l](double x, double y) { return l.toScreen(x, y); });
 
     p.setPen(QPen(kContourLine, 1.8 * u, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     p.setBrush(kContourFill);
@@ -271,7 +261,7 @@ void paintContour(QPainter& p, const report::MomentContour& c, const ContourLayo
 
     for (const ContourLabel& t : l.labels) {
         p.setFont(t.bold ? bold(style.font) : style.font);
-        QColor colour = kAxis;
+        QColor colour = kAxisColour;
         if (t.kind == ContourLabel::Kind::XTitle || t.kind == ContourLabel::Kind::YTitle
             || t.kind == ContourLabel::Kind::Caption)
             colour = Qt::black;
