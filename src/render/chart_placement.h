@@ -47,6 +47,22 @@ bool segmentMeetsRect(QPointF a, QPointF b, const QRectF& r);
 inline const QColor kGridColour(228, 228, 228);
 inline const QColor kAxisColour(70, 70, 70);
 
+// A point of a chart: a disc of radius `radius` in its utilisation's colour, and for
+// the governing point a ring about it.
+template <typename Painter>
+void paintMarker(Painter& p, QPointF centre, const QColor& colour, double radius, bool governing, double ring,
+                 double unit)
+{
+    p.setPen(QPen(colour.darker(150), 1.2 * unit));
+    p.setBrush(colour);
+    p.drawEllipse(centre, radius, radius);
+    p.setBrush(Qt::NoBrush);
+    if (governing) {
+        p.setPen(QPen(colour, 1.5 * unit));
+        p.drawEllipse(centre, radius + ring, radius + ring);
+    }
+}
+
 // The grid at every tick of both axes, then the two axes crossing at the origin.
 // `screen(x, y)` maps chart values to the device; `unit` is one device millimetre
 // or so.

@@ -324,15 +324,7 @@ void paintChart(QPainter& p, const InteractionChart& chart, const ChartLayout& l
         const ChartCase& c = chart.cases[static_cast<std::size_t>(m.caseIndex)];
         const QColor colour = utilisationColour(c.utilisation);
         const bool main = m.caseIndex == l.governing;
-        const double r = (main ? kGoverningMarker : kMarker) * u;
-        p.setPen(QPen(colour.darker(150), 1.2 * u));
-        p.setBrush(colour);
-        p.drawEllipse(m.centre, r, r);
-        p.setBrush(Qt::NoBrush);
-        if (main) {
-            p.setPen(QPen(colour, 1.5 * u));
-            p.drawEllipse(m.centre, r + kRing * u, r + kRing * u);
-        }
+        paintMarker(p, m.centre, colour, (main ? kGoverningMarker : kMarker) * u, main, kRing * u, u);
     }
 
     // Every text where the layout put it.

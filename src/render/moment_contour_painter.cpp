@@ -248,15 +248,7 @@ void paintContour(QPainter& p, const report::MomentContour& c, const ContourLayo
     for (const ContourMarker& m : markers) {
         const QColor colour = utilisationColour(c.points[static_cast<std::size_t>(m.pointIndex)].utilisation);
         const bool main = m.pointIndex == l.governing;
-        const double r = (main ? kGoverningMarker : kMarker) * u;
-        p.setPen(QPen(colour.darker(150), 1.2 * u));
-        p.setBrush(colour);
-        p.drawEllipse(m.centre, r, r);
-        p.setBrush(Qt::NoBrush);
-        if (main) {
-            p.setPen(QPen(colour, 1.5 * u));
-            p.drawEllipse(m.centre, r + kRing * u, r + kRing * u);
-        }
+        paintMarker(p, m.centre, colour, (main ? kGoverningMarker : kMarker) * u, main, kRing * u, u);
     }
 
     for (const ContourLabel& t : l.labels) {
