@@ -292,51 +292,23 @@ public:
         note("Os arranjos que passaram em todas as verificações, do mais leve; os " + std::to_string(r.solutions.size())
              + " primeiros de " + std::to_string(r.solutionsFound) + ", como em \"Soluções\". Em negrito, o arranjo "
              "deste memorial.");
-        block(blockFormat(3, 0), charFormat(9));
-        QTextTableFormat t;
-        t.setHeaderRowCount(1);
-        t.setCellPadding(layoutMm(0.6));
-        t.setCellSpacing(0);
-        t.setBorder(layoutMm(0.15));
-        t.setBorderBrush(QColor(150, 150, 150));
-        t.setBorderCollapse(true);
-        t.setAlignment(Qt::AlignLeft);
-        t.setColumnWidthConstraints({QTextLength(QTextLength::FixedLength, layoutMm(12)),
-                                     QTextLength(QTextLength::FixedLength, layoutMm(28)),
-                                     QTextLength(QTextLength::FixedLength, layoutMm(40)),
-                                     QTextLength(QTextLength::FixedLength, layoutMm(40)),
-                                     QTextLength(QTextLength::FixedLength, layoutMm(30))});
-        const int rows = static_cast<int>(r.solutions.size()) + 1;
-        // One edit for the whole table: the document is laid out once, not again
-        // after each of its 200 cells (seconds for a list of 40).
-        cursor_.beginEditBlock();
-        QTextTable* table = cursor_.insertTable(rows, 5, t);
-        const auto cell = [&](int row, int column, const std::string& text, bool bold) {
-            QTextCursor c = table->cellAt(row, column).firstCursorPosition();
-            QTextBlockFormat b;
-            b.setAlignment(column == 0 ? Qt::AlignHCenter : Qt::AlignRight);
-            c.setBlockFormat(b);
-            c.insertText(qs(text), charFormat(8.5, bold));
-        };
-        const char* titles[] = {"Nº", "Peso (kg)", "Barras nas faces b", "Barras nas faces h", "Estribo (mm)"};
-        for (int k = 0; k < 5; ++k)
-            cell(0, k, titles[k], true);
-        for (int i = 1; i < rows; ++i) {
-            const report::SolutionLine& s = r.solutions[static_cast<std::size_t>(i) - 1];
-            cell(i, 0, std::to_string(s.position), s.shown);
-            cell(i, 1, s.weight, s.shown);
-            cell(i, 2, s.barsOnWidthFace, s.shown);
-            cell(i, 3, s.barsOnDepthFace, s.shown);
-            cell(i, 4, s.stirrup, s.shown);
+        std::vector<std::vector<std::string>> rows{
+            {"Nº", "Peso (kg)", "Barras nas faces b", "Barras nas faces h", "Estribo (mm)"}};
+        std::vector<bool> shown{false};
+        for (const report::SolutionLine& l : r.solutions) {
+            rows.push_back({std::to_string(l.position), l.weight, l.barsOnWidthFace, l.barsOnDepthFace, l.stirrup});
+            shown.push_back(l.shown);
         }
-        cursor_.endEditBlock();
-        cursor_.movePosition(QTextCursor::End);
+        table(rows, {12, 28, 40, 40, 30}, shown, {}, Qt::AlignHCenter);
     }
 
     // A table of `rows` (the first its titles, in bold) with columns of these widths
-    // in mm; a row in `boldRows` stands out; numbers are right-aligned.
+    // in mm; a row in `boldRows` stands out; numbers are right-aligned, the first
+    // column as `firstColumn` says. One edit for the whole table: the document is
+    // laid out once, not again after each cell (seconds for the search's 40 rows).
     void table(const std::vector<std::vector<std::string>>& rows, const std::vector<double>& widthsMm,
-               const std::vector<bool>& boldRows = {}, const std::vector<bool>& failedRows = {})
+               const std::vector<bool>& boldRows = {}, const std::vector<bool>& failedRows = {},
+               Qt::Alignment firstColumn = Qt::AlignLeft)
     {
         block(blockFormat(3, 0), charFormat(9));
         QTextTableFormat t;
@@ -361,7 +333,7 @@ public:
             for (int j = 0; j < columns && j < static_cast<int>(rows[k].size()); ++j) {
                 QTextCursor c = table->cellAt(i, j).firstCursorPosition();
                 QTextBlockFormat b;
-                b.setAlignment(j == 0 ? Qt::AlignLeft : Qt::AlignRight);
+                b.setAlignment(j == 0 ? firstColumn : Qt::AlignRight);
                 c.setBlockFormat(b);
                 c.insertText(qs(rows[k][static_cast<std::size_t>(j)]), charFormat(8.5, bold, false, colour));
             }
